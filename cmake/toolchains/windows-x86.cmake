@@ -1,0 +1,27 @@
+# Windows x86, built with mingw-w64 (posix threads). Its counterpart stands beside it.
+
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR i686)
+
+set(QORL_MINGW_PREFIX i686-w64-mingw32)
+set(CMAKE_C_COMPILER ${QORL_MINGW_PREFIX}-gcc-posix)
+set(CMAKE_CXX_COMPILER ${QORL_MINGW_PREFIX}-g++-posix)
+set(CMAKE_RC_COMPILER ${QORL_MINGW_PREFIX}-windres)
+
+set(CMAKE_FIND_ROOT_PATH /usr/${QORL_MINGW_PREFIX})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+
+# The compiler's libraries go into the results: what we build needs nothing but Windows.
+set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
+set(CMAKE_SHARED_LINKER_FLAGS_INIT -static)
+
+# Callers enter with a stack that is aligned to 4 bytes only.
+set(CMAKE_CXX_FLAGS_INIT -mstackrealign)
+
+# Wine's 32-bit half is an extra package; without it programs are built and not run.
+if(EXISTS /usr/lib/wine/wine)
+  set(CMAKE_CROSSCOMPILING_EMULATOR wine)
+endif()
