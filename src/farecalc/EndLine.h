@@ -1,0 +1,36 @@
+// The end of a fare calculation line.
+#pragma once
+
+#include <string>
+
+#include "frame/Collection.h"
+#include "frame/LineElement.h"
+
+namespace qorltst {
+
+/// The end of a fare calculation: end marker, total fare, rate of exchange, facility charges.
+class EndLine final : public LineElement {
+ public:
+  static const ClassDescription kDescription;
+
+  explicit EndLine(toolkit::Toolkit& toolkit);
+
+  [[nodiscard]] const ClassDescription& Description() const noexcept override { return kDescription; }
+
+ private:
+  struct Table;
+
+  bool endId_ = false;
+  Ref<Collection> anyPFCs_;
+  std::u16string fareAfterNucLowCombCityCode_;
+  std::u16string fareAfterNucCurrencyCode_;
+  std::u16string fareAfterNucAmount_;
+  std::u16string fareAfterNucCityPair2_;
+  std::u16string fareAfterNucCityPair1_;
+  std::u16string fareAfterNucFareBasis_;
+  std::u16string rateOfExchange_;
+  std::u16string totalFareCurrencyCode_;
+  std::u16string totalFareAmount_;
+};
+
+}  // namespace qorltst
