@@ -14,8 +14,11 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# The compiler's libraries go into the results: what we build needs nothing but Windows.
-set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
-set(CMAKE_SHARED_LINKER_FLAGS_INIT -static)
+# The compiler's libraries go into the results: what we build needs nothing but Windows. Without a time stamp the same
+# sources give the same file.
+foreach(kind EXE SHARED MODULE)
+  set(CMAKE_${kind}_LINKER_FLAGS_INIT "-static -Wl,--no-insert-timestamp")
+  set(CMAKE_${kind}_LINKER_FLAGS_RELEASE_INIT -s)
+endforeach()
 
 set(CMAKE_CROSSCOMPILING_EMULATOR wine)

@@ -1,7 +1,22 @@
-// The public table. See DepartureRoutingPoint.h.
+// The public table and the fill. See DepartureRoutingPoint.h.
 #include "farecalc/DepartureRoutingPoint.h"
 
+#include "frame/Walk.h"
+
 namespace qorltst {
+
+using toolkit::NodeTypeId;
+using toolkit::ParseNode;
+namespace {
+
+// There is no begin line, and that is meant.
+constexpr TraceTexts kFillTexts{
+    .begin = {},
+    .end = {u"End of FillWithData (in DepartureRoutingPoint) Function", u"DepartureRoutingPoint.FillWithData"},
+    .errorEnd = {u"End of FillWithData (in DepartureRoutingPoint) Function with error",
+                 u"DepartureRoutingPoint.FillWithData"}};
+
+}  // namespace
 
 struct DepartureRoutingPoint::Table {
   static constexpr MemberTable kMembers{{
@@ -22,5 +37,20 @@ struct DepartureRoutingPoint::Table {
 constinit const ClassDescription DepartureRoutingPoint::kDescription = Table::kMembers.Describe(
     u"DepartureRoutingPoint", u"The departure point of a fare calculation that was reissued or rerouted.",
     &CreateObject<DepartureRoutingPoint>);
+
+void DepartureRoutingPoint::FillWithData(ParseNode& node) {
+  Traced(kFillTexts, [&] {
+    TakeTexts(node);
+    const auto rerouting = [this](ParseNode& group) {
+      involuntaryRerouting_ = false;
+      Walk(group, On(NodeTypeId::InvoluntaryRerouting, Mark(involuntaryRerouting_)),
+           On(NodeTypeId::ReroutingDate, Text(departureRoutingDate_)), On(NodeTypeId::ReroutingCity, Text(cityCode_)));
+    };
+    Walk(node, On(NodeTypeId::DepartureCity, Text(cityCode_)),
+         On(NodeTypeId::DepartureGroup, Children(On(NodeTypeId::RoutingDate, Text(departureRoutingDate_)),
+                                                 On(NodeTypeId::ReroutingCity, Text(cityCode_)))),
+         On(NodeTypeId::ReroutingGroup, rerouting));
+  });
+}
 
 }  // namespace qorltst

@@ -16,6 +16,9 @@ class DepartureRoutingPoint final : public LineElement {
 
   [[nodiscard]] const ClassDescription& Description() const noexcept override { return kDescription; }
 
+  /// Fills the record from its line's node. A failure leaves what was set before it.
+  void FillWithData(toolkit::ParseNode& node);
+
  private:
   struct Table;
 

@@ -1,7 +1,28 @@
-// The public table and the creation. See EndLine.h.
+// The public table and the fill. See EndLine.h.
 #include "farecalc/EndLine.h"
 
+#include "farecalc/AnyPFC.h"
+#include "frame/Walk.h"
+
 namespace qorltst {
+
+using toolkit::NodeTypeId;
+using toolkit::ParseNode;
+namespace {
+
+// Every line of this class has the one source, and the two builders have no begin line; log readers match them.
+constexpr std::u16string_view kSource = u"FareCalculation.EndLine";
+constexpr TraceTexts kFillTexts{.begin = {u"Beginning of FillWithData (in EndLine) Function", kSource},
+                                .end = {u"End of FillWithData (in EndLine) Function", kSource},
+                                .errorEnd = {u"End of FillWithData (in EndLine) Function with error", kSource}};
+constexpr TraceTexts kAnyPFCTexts{.begin = {},
+                                  .end = {u"End of BuildAnyPFC (in EndLine) Function", kSource},
+                                  .errorEnd = {u"End of BuildAnyPFC (in EndLine) Function with Errors", kSource}};
+constexpr TraceTexts kFreeFlowTexts{.begin = {},
+                                    .end = {u"End of BuildFreeFlow (in EndLine) Function", kSource},
+                                    .errorEnd = {u"End of BuildFreeFlow (in EndLine) Function with Errors", kSource}};
+
+}  // namespace
 
 struct EndLine::Table {
   static constexpr MemberTable kMembers{{
@@ -48,5 +69,45 @@ constinit const ClassDescription EndLine::kDescription = Table::kMembers.Describ
     &CreateObject<EndLine>);
 
 EndLine::EndLine(toolkit::Toolkit& toolkit) : LineElement(toolkit), anyPFCs_(Make<Collection>()) {}
+
+void EndLine::FillWithData(ParseNode& node) {
+  Trace(kFillTexts.begin);
+  const auto items = Make<Collection>();
+  TakeTexts(node);  // outside the trap: a failure here goes to the caller's, and that is meant
+  endId_ = false;
+  Trapped(kFillTexts.errorEnd, [&] {
+    const auto fareAfterNuc = Children(On(NodeTypeId::FareAfterNucCity1, Text(fareAfterNucCityPair1_)),
+                                       On(NodeTypeId::FareAfterNucCity2, Text(fareAfterNucCityPair2_)),
+                                       On(NodeTypeId::FareAmount, Text(fareAfterNucAmount_)),
+                                       On(NodeTypeId::City, Text(fareAfterNucLowCombCityCode_)),
+                                       On(NodeTypeId::CurrencyCode, Text(fareAfterNucCurrencyCode_)),
+                                       On(NodeTypeId::FareBasis, Text(fareAfterNucFareBasis_)));
+    Walk(node, On(NodeTypeId::EndMarker, Mark(endId_)),
+         On(NodeTypeId::FacilityCharges, [&](ParseNode& child) { BuildAnyPFC(child, *items); }),
+         On(NodeTypeId::EndFreeFlowGroup, [this](ParseNode& child) { BuildFreeFlow(child); }),
+         On(NodeTypeId::RateOfExchangeGroup, Children(On(NodeTypeId::RateOfExchange, Text(rateOfExchange_)))),
+         On(NodeTypeId::TotalFareGroup,
+            Children(On(NodeTypeId::TotalFareCurrency, Text(totalFareCurrencyCode_)),
+                     On(NodeTypeId::FareAmount, Text(totalFareAmount_)), On(NodeTypeId::FareAfterNuc, fareAfterNuc))));
+    InstallFilled(anyPFCs_, items);
+  });
+  Trace(kFillTexts.end);
+}
+
+void EndLine::BuildAnyPFC(ParseNode& node, Collection& items) {
+  Traced(kAnyPFCTexts, [&] {
+    ForEachChild(node, [&](ParseNode& child) {
+      const auto item = Make<AnyPFC>(Toolkit());
+      item->FillWithData(child);
+      items.Add(item);
+    });
+  });
+}
+
+void EndLine::BuildFreeFlow(ParseNode& node) {
+  Traced(kFreeFlowTexts, [&] {
+    Walk(node, On(NodeTypeId::EndFreeFlow, Children(On(NodeTypeId::EndFreeFlowText, Text(freeFlowText_)))));
+  });
+}
 
 }  // namespace qorltst

@@ -17,8 +17,16 @@ class EndLine final : public LineElement {
 
   [[nodiscard]] const ClassDescription& Description() const noexcept override { return kDescription; }
 
+  /// Fills the record from its line's node. A failure leaves what was set before it.
+  void FillWithData(toolkit::ParseNode& node);
+
  private:
   struct Table;
+
+  void BuildAnyPFC(toolkit::ParseNode& node, Collection& items);
+  void BuildFreeFlow(toolkit::ParseNode& node);
+
+  std::u16string freeFlowText_;  // shown to nobody, and that is meant
 
   bool endId_ = false;
   Ref<Collection> anyPFCs_;

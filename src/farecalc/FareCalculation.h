@@ -21,8 +21,22 @@ class FareCalculation final : public LineElement {
 
   [[nodiscard]] const ClassDescription& Description() const noexcept override { return kDescription; }
 
+  /// Fills the record from its line's node. A failure leaves what was set before it.
+  void FillWithData(toolkit::ParseNode& node);
+
  private:
   struct Table;
+
+  void BuildDeparturePoint(toolkit::ParseNode& node);
+  void BuildEndLine(toolkit::ParseNode& node);
+  void BuildItineraryAndTheRest(toolkit::ParseNode& node);
+  void BuildCompositeElement(toolkit::ParseNode& node, Collection& elements);
+  void BuildFareCommon(toolkit::ParseNode& node);
+  void BuildFareWithStopOver(toolkit::ParseNode& node);
+
+  /// Makes an item, fills it under the texts of its builder and adds it.
+  template <class Item>
+  void BuildItem(const TraceTexts& texts, toolkit::ParseNode& node, Collection& items);
 
   std::u16string fareCommonStopOverChargeValue_;
   std::u16string fareCommonNumberStopAllowed_;

@@ -83,7 +83,9 @@ std::u16string WithExponent(const Decimal& number) {
 
 std::u16string InFull(const Decimal& number) {
   if (number.exponent < 0) {
-    return (u"0" + DecimalSeparator()).append(static_cast<std::size_t>(-number.exponent - 1), u'0').append(number.digits);
+    return (u"0" + DecimalSeparator())
+        .append(static_cast<std::size_t>(-number.exponent - 1), u'0')
+        .append(number.digits);
   }
   const auto whole = static_cast<std::size_t>(number.exponent) + 1;
   std::u16string text = number.digits.substr(0, whole);

@@ -20,7 +20,8 @@ const Member* ClassDescription::FindByDispatchId(std::int32_t dispatchId) const 
       return &inPlace;
     }
   }
-  const auto found = std::ranges::find_if(members, [dispatchId](const Member& m) { return m.dispatchId == dispatchId; });
+  const auto found =
+      std::ranges::find_if(members, [dispatchId](const Member& m) { return m.dispatchId == dispatchId; });
   return found != members.end() ? &*found : nullptr;
 }
 

@@ -30,7 +30,9 @@ using Arguments = std::span<const Value>;
 
 const Collection& CollectionOf(Object& object) { return static_cast<const Collection&>(object); }
 
-Value CallItem(Object& object, Arguments arguments) { return CollectionOf(object).Item(std::get<std::int32_t>(arguments[0])); }
+Value CallItem(Object& object, Arguments arguments) {
+  return CollectionOf(object).Item(std::get<std::int32_t>(arguments[0]));
+}
 
 Value CallEnumerate(Object& object, Arguments /*none*/) { return CollectionOf(object).Enumerate(); }
 

@@ -60,11 +60,10 @@ constexpr std::array kLogParameters{Parameter{u"strSource", ValueType::String, t
                                     Parameter{u"strMessage", ValueType::String, true}};
 constexpr std::array kHostErrorParameters{Parameter{u"errNumber", ValueType::Long},
                                           Parameter{u"strSource", ValueType::String, true}};
-constexpr std::array kRuntimeErrorParameters{Parameter{u"errNumber", ValueType::Short},
-                                             Parameter{u"errDesc", ValueType::String},
-                                             Parameter{u"strSource", ValueType::String, true},
-                                             Parameter{u"strMsg", ValueType::String, true},
-                                             Parameter{u"lHostError", ValueType::Long, true}};
+constexpr std::array kRuntimeErrorParameters{
+    Parameter{u"errNumber", ValueType::Short}, Parameter{u"errDesc", ValueType::String},
+    Parameter{u"strSource", ValueType::String, true}, Parameter{u"strMsg", ValueType::String, true},
+    Parameter{u"lHostError", ValueType::Long, true}};
 constexpr std::array kTraceParameters{Parameter{u"strMsg", ValueType::String},
                                       Parameter{u"strSource", ValueType::String, true}};
 
@@ -136,9 +135,7 @@ EtLog::EtLog(toolkit::Toolkit& toolkit) noexcept : toolkit_(&toolkit) {}
 
 EtLog::~EtLog() = default;
 
-std::u16string_view EtLog::Source() const noexcept {
-  return prefix_ ? std::u16string_view(*prefix_) : kUsualPrefix;
-}
+std::u16string_view EtLog::Source() const noexcept { return prefix_ ? std::u16string_view(*prefix_) : kUsualPrefix; }
 
 void EtLog::SetSource(std::u16string_view prefix) { prefix_ = std::make_unique<std::u16string>(prefix); }
 

@@ -79,13 +79,20 @@ struct Member {
 
 namespace detail {
 
-template <auto Pointer>
+template <auto... Path>
 struct Reach;
 
 template <class Class, class T, T Class::*Pointer>
 struct Reach<Pointer> {
   using Type = T;
   static T& In(Object& object) { return static_cast<Class&>(object).*Pointer; }
+};
+
+/// A member of a group that is itself a member.
+template <auto Outer, class Group, class T, T Group::*Inner>
+struct Reach<Outer, Inner> {
+  using Type = T;
+  static T& In(Object& object) { return Reach<Outer>::In(object).*Inner; }
 };
 
 template <class T>
@@ -98,10 +105,10 @@ struct Pointee<Ref<T>> {
 
 }  // namespace detail
 
-/// The access to a data member, told apart by its type.
-template <auto Pointer>
+/// The access to a data member, or to a member of a group that is one, told apart by its type.
+template <auto... Path>
 consteval Access Field() {
-  using Reach = detail::Reach<Pointer>;
+  using Reach = detail::Reach<Path...>;
   using T = typename Reach::Type;
   if constexpr (requires { typename detail::Pointee<T>::Type; }) {
     using Class = typename detail::Pointee<T>::Type;

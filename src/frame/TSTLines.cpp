@@ -77,8 +77,7 @@ void TST::FillPaymentRestrictionLine(ParseNode& node) {
 }
 
 void TST::FillZapOffValue(ParseNode& node) {
-  Traced(kUsualTexts<u"FillZapOffValue", u"TST">,
-         [&] { Walk(node, On(NodeTypeId::ZapOffValue, Text(zapOff_))); });
+  Traced(kUsualTexts<u"FillZapOffValue", u"TST">, [&] { Walk(node, On(NodeTypeId::ZapOffValue, Text(zapOff_))); });
 }
 
 }  // namespace qorltst

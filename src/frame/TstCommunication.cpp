@@ -98,7 +98,8 @@ std::int32_t TstCommunication::RetrieveCurrentTst(toolkit::HostSession* session,
 std::int32_t TstCommunication::RetrieveSpecificTst(toolkit::HostSession* session, std::u16string_view command,
                                                    TST& tst) noexcept {
   static constexpr Retrieval kSpecific{
-      .begin = {u"Beginning RetrieveSpecificTst(in TstCommunication) Function", u"TstCommunication.RetrieveSpecificTST"},
+      .begin = {u"Beginning RetrieveSpecificTst(in TstCommunication) Function",
+                u"TstCommunication.RetrieveSpecificTST"},
       .setsOption = false,
       .noSessionSource = u"TstCommunication.RetrieveSpecificTST",
       .hostErrorSource = u"TstCommunication.RetrieveSpecificTst",

@@ -20,6 +20,10 @@ class TstParser : public Frame {
   /// Raises 0x8004270F under "TstParser:ParseTst Method" on any unexpected failure; what was stored until then stays.
   std::int32_t ParseTst(std::u16string_view text, TST& tst);
 
+  // What the builders use.
+  using Frame::Toolkit;
+  using Frame::Traced;
+
  private:
   std::int32_t Parse(std::u16string_view text, TST& tst);
   std::int32_t WalkNodes(toolkit::ParseNode& root, TST& tst);

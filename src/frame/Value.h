@@ -26,9 +26,9 @@ struct Currency {
 
 /// How a value is passed. `Short`, `Any` and `HostSession` are parameter types only.
 enum class ValueType : std::uint8_t {
-  Nothing,      ///< no result
-  Long,         ///< 32-bit signed integer
-  Short,        ///< 16-bit signed integer
+  Nothing,  ///< no result
+  Long,     ///< 32-bit signed integer
+  Short,    ///< 16-bit signed integer
   Boolean,
   Date,
   Currency,

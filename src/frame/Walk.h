@@ -50,6 +50,33 @@ void Walk(toolkit::ParseNode& node, const Rule<Actions>&... rules) {
   return [&target](toolkit::ParseNode& node) { target = node.Text(); };
 }
 
+/// The action that sets a flag where its marker node occurs; the marker's text is not read.
+[[nodiscard]] inline auto Mark(bool& flag) {
+  return [&flag](toolkit::ParseNode& /*marker*/) { flag = true; };
+}
+
+/// The action that adds a node's text to what is there.
+[[nodiscard]] inline auto AppendText(std::u16string& target) {
+  return [&target](toolkit::ParseNode& node) { target += node.Text(); };
+}
+
+/// The text of the object's "Buffer"; an absent object is the runtime error 91.
+[[nodiscard]] std::u16string BufferOf(const toolkit::Ref<toolkit::BufferOwner>& owner);
+
+/// The action that stores the "Buffer" of a node's first item, which must be there.
+[[nodiscard]] inline auto ItemBuffer(std::u16string& target) {
+  return [&target](toolkit::ParseNode& node) { target = BufferOf(node.Item(1)); };
+}
+
+/// The same where the item may be absent: then nothing is stored.
+[[nodiscard]] inline auto ItemBufferIfPresent(std::u16string& target) {
+  return [&target](toolkit::ParseNode& node) {
+    if (const auto item = node.Item(1)) {
+      target = item->Buffer();
+    }
+  };
+}
+
 /// The action that walks a node's own children.
 template <class... Actions>
 [[nodiscard]] auto Children(Rule<Actions>... rules) {

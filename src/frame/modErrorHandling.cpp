@@ -14,9 +14,7 @@ thread_local const RuntimeError* pending = nullptr;
 
 }  // namespace
 
-std::u16string modErrorHandling::GetErrorMessage(std::int32_t /*number*/) {
-  return u"An unknown error has occurred!";
-}
+std::u16string modErrorHandling::GetErrorMessage(std::int32_t /*number*/) { return u"An unknown error has occurred!"; }
 
 void modErrorHandling::RaiseError(std::int32_t number, std::u16string_view source) {
   const std::int64_t raised = kAutomationErrorBase + number;

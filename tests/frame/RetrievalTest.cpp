@@ -41,9 +41,9 @@ TEST_F(RetrievalTest, TheCommunicationIsMadeOnceAndAParserForEachRetrieval) {
   tst_->RetrieveCurrentTst(nullptr);
   EXPECT_EQ(modClassIDGenerator::OfProcess().NextID(), before + 3) << "nothing new";
   tst_->RetrieveCurrentTst(session_.Get());
-  EXPECT_EQ(modClassIDGenerator::OfProcess().NextID(), before + 5) << "a parser";
+  EXPECT_EQ(modClassIDGenerator::OfProcess().NextID(), before + 6) << "a parser and a header";
   tst_->RetrieveCurrentTst(session_.Get());
-  EXPECT_EQ(modClassIDGenerator::OfProcess().NextID(), before + 7) << "another parser";
+  EXPECT_EQ(modClassIDGenerator::OfProcess().NextID(), before + 9) << "another parser and another header";
 }
 
 TEST_F(RetrievalTest, AFailedOneKeepsEarlierValues) {

@@ -61,6 +61,7 @@ std::vector<Entry> EntireLog(const std::vector<Entry>& between = {}) {
 std::vector<Entry> ParseLog() {
   return Concat({{TraceEntry(u"Beginning of ParseTst(in TstParser) Function", u"TstParser.ParseTst")},
                  testing::Around(u"SetTextToParse", u"TST"),
+                 testing::EmptyHeaderLog(),
                  {TraceEntry(u"End of ParseTst(in TstParser) Function", u"TstParser.ParseTst")}});
 }
 
@@ -347,14 +348,16 @@ TEST_F(TstCommunicationTest, NoScreenHangsTheCaller) {
 
 TEST_F(TstCommunicationTest, OneScreenCostsExactlyTheseToolkitCalls) {
   RetrieveCurrent({Screen({u"TST 1", u"END"})});
-  EXPECT_EQ(toolkit_->calls, (Calls{"SetOption 322 False", "SendCommand", "ResponseText",
-                                    // is it a TST
-                                    "CreateParser", "Parse 6", "FindNode 602",
-                                    // do more screens follow
-                                    "CreateParser", "Parse 6", "FindNode 561",
-                                    // the whole
-                                    "CreateParser", "Parse 6", "FindNode 602", "Children 0", "Next 0", "HasWarning 602",
-                                    "TypeId 602", "Next 0"}));
+  EXPECT_EQ(toolkit_->calls,
+            (Calls{"SetOption 322 False", "SendCommand", "ResponseText",
+                   // is it a TST
+                   "CreateParser", "Parse 6", "FindNode 602",
+                   // do more screens follow
+                   "CreateParser", "Parse 6", "FindNode 561",
+                   // the whole
+                   "CreateParser", "Parse 6", "FindNode 602", "Children 0", "Next 0", "HasWarning 602", "TypeId 602",
+                   // the header
+                   "Text 602", "ErrorText 602", "Children 602", "Next 602", "Next 0"}));
 }
 
 TEST_F(TstCommunicationTest, EachFurtherScreenCostsExactlyEightToolkitCallsMore) {

@@ -76,6 +76,7 @@ TEST_F(TstParserTest, TheLinesOfTheTstAreFilledInDisplayOrder) {
                    "ZapOff=5"}));
   EXPECT_EQ(toolkit_->log, Concat({{ParseTrace(kBegin)},
                                    Around(u"SetTextToParse", u"TST"),
+                                   testing::EmptyHeaderLog(),
                                    Around(u"FillFareWithData", u"TST"),
                                    Around(u"FillEquivWithData", u"TST"),
                                    Around(u"FillTotalWithData", u"TST"),
@@ -95,6 +96,7 @@ TEST_F(TstParserTest, EachWarningIsTracedWithItsTypeAndTheNodeIsStillDispatched)
   const std::u16string warning = u"Parsing WARNING in ParseTst(in TstParser) Function. On object type: ";
   EXPECT_EQ(toolkit_->log, Concat({{ParseTrace(kBegin)},
                                    Around(u"SetTextToParse", u"TST"),
+                                   testing::EmptyHeaderLog(),
                                    {ParseTrace(warning + u"2850")},
                                    Around(u"FillFareWithData", u"TST"),
                                    {ParseTrace(warning + u"7")},
@@ -146,9 +148,10 @@ TEST_F(TstParserTest, AFailureAtAnyToolkitCallRaises9999AndKeepsWhatWasFilledBef
 
 TEST_F(TstParserTest, ReadsEachTopLevelNodeWithExactlyTheseCalls) {
   Parse({{602, u"TST"}, {4711, u"?", {{147, u"EUR"}}}});
-  EXPECT_EQ(toolkit_->calls, (std::vector<std::string>{"CreateParser", "Parse 6", "FindNode 602", "Children 0",
-                                                       "Next 0", "HasWarning 602", "TypeId 602", "Next 0",
-                                                       "HasWarning 4711", "TypeId 4711", "Next 0"}));
+  EXPECT_EQ(toolkit_->calls,
+            (std::vector<std::string>{"CreateParser", "Parse 6", "FindNode 602", "Children 0", "Next 0",
+                                      "HasWarning 602", "TypeId 602", "Text 602", "ErrorText 602", "Children 602",
+                                      "Next 602", "Next 0", "HasWarning 4711", "TypeId 4711", "Next 0"}));
 }
 
 }  // namespace

@@ -201,6 +201,10 @@ std::vector<Entry> Around(std::u16string_view operation, std::u16string_view cla
   return between;
 }
 
+std::vector<Entry> EmptyHeaderLog() {
+  return Around(u"BuildHeaderLine", u"TstParser", Around(u"FillTextWithData", u"TstHeader"));
+}
+
 std::vector<Entry> Concat(std::vector<std::vector<Entry>> logs) {
   std::vector<Entry> all;
   for (std::vector<Entry>& log : logs) {

@@ -60,6 +60,9 @@ struct Entry {
 [[nodiscard]] std::vector<Entry> Around(std::u16string_view operation, std::u16string_view className,
                                         std::vector<Entry> between = {});
 
+/// What a header node without children writes.
+[[nodiscard]] std::vector<Entry> EmptyHeaderLog();
+
 /// Several logs one after another.
 [[nodiscard]] std::vector<Entry> Concat(std::vector<std::vector<Entry>> logs);
 

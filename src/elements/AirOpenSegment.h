@@ -1,0 +1,38 @@
+// One open segment of the itinerary. Its dated counterpart is AirSegment.
+#pragma once
+
+#include <string>
+
+#include "frame/LineElement.h"
+
+namespace qorltst {
+
+/// An open segment: the flown segment without flight, time, status and booking designator.
+class AirOpenSegment final : public LineElement {
+ public:
+  static const ClassDescription kDescription;
+
+  explicit AirOpenSegment(toolkit::Toolkit& toolkit) : LineElement(toolkit) {}
+
+  [[nodiscard]] const ClassDescription& Description() const noexcept override { return kDescription; }
+
+  /// Fills the record from its line's node. A failure leaves what was set before it.
+  void FillWithData(toolkit::ParseNode& node);
+
+ private:
+  struct Table;
+
+  std::u16string elementNumber_;
+  std::u16string connectId_;
+  std::u16string boardPoint_;
+  std::u16string airLine_;
+  std::u16string departureDate_;
+  std::u16string fareBasisId_;
+  std::u16string passengerType_;
+  std::u16string baggageAllowance_;
+  std::u16string class_;
+  std::u16string notValidBefore_;
+  std::u16string notValidAfter_;
+};
+
+}  // namespace qorltst

@@ -1,0 +1,29 @@
+// The validating carrier line of a TST.
+#pragma once
+
+#include <string>
+
+#include "frame/LineElement.h"
+
+namespace qorltst {
+
+/// The validating carrier.
+class FVElement final : public LineElement {
+ public:
+  static const ClassDescription kDescription;
+
+  explicit FVElement(toolkit::Toolkit& toolkit) : LineElement(toolkit) {}
+
+  [[nodiscard]] const ClassDescription& Description() const noexcept override { return kDescription; }
+
+  /// Fills the record from its line's node. A failure leaves what was set before it.
+  void FillWithData(toolkit::ParseNode& node);
+
+ private:
+  struct Table;
+
+  std::u16string elementNumber_;
+  std::u16string carrier_;
+};
+
+}  // namespace qorltst

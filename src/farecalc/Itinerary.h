@@ -1,0 +1,34 @@
+// A fare component of a fare calculation. The items of its composite elements are ItineraryCompositeElement.
+#pragma once
+
+#include "farecalc/RoutingElement.h"
+
+namespace qorltst {
+
+/// A fare component: the carrier and city that end it, its fare, mileage and stop-overs.
+class Itinerary final : public RoutingElement {
+ public:
+  static const ClassDescription kDescription;
+
+  explicit Itinerary(toolkit::Toolkit& toolkit);
+
+  [[nodiscard]] const ClassDescription& Description() const noexcept override { return kDescription; }
+
+  /// Fills the record from its line's node. A failure leaves what was set before it.
+  void FillWithData(toolkit::ParseNode& node);
+
+ private:
+  struct Table;
+
+  void BuildAnySymbolList(toolkit::ParseNode& node, Collection& symbols);
+  void BuildOtherSurcharges(toolkit::ParseNode& node, Collection& surcharges);
+  void BuildCompositeElement(toolkit::ParseNode& node, Collection& elements);
+
+  struct Texts;
+
+  bool fareLessId_ = false;
+  Ref<Collection> anySymbols_;
+  Ref<Collection> itineraryCompositeElements_;
+};
+
+}  // namespace qorltst
