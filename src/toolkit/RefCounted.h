@@ -39,14 +39,14 @@ template <class T>
 class Ref {
  public:
   Ref() noexcept = default;
-  Ref(std::nullptr_t) noexcept {}
+  Ref(std::nullptr_t) noexcept {}  // NOLINT(google-explicit-constructor): nothing is a reference too
   explicit Ref(T* object) noexcept : object_(object) { Hold(); }
   Ref(const Ref& other) noexcept : object_(other.object_) { Hold(); }
   Ref(Ref&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
 
-  template <class U>
-    requires std::is_convertible_v<U*, T*>
-  Ref(const Ref<U>& other) noexcept : object_(other.Get()) {
+  /// Converts as pointers do.
+  template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
+  Ref(const Ref<U>& other) noexcept : object_(other.Get()) {  // NOLINT(google-explicit-constructor)
     Hold();
   }
 
