@@ -21,4 +21,7 @@ foreach(kind EXE SHARED MODULE)
   set(CMAKE_${kind}_LINKER_FLAGS_RELEASE_INIT -s)
 endforeach()
 
-set(CMAKE_CROSSCOMPILING_EMULATOR wine)
+# Without Wine programs are built and not run.
+if(EXISTS /usr/lib/wine/wine64)
+  set(CMAKE_CROSSCOMPILING_EMULATOR wine)
+endif()

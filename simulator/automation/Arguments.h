@@ -1,0 +1,39 @@
+// Reads the values that a member's call gets. They have their parameter's type, or none where they were left out.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "frame/Value.h"
+#include "toolkit/RuntimeError.h"
+
+namespace qorltst::simulator {
+
+using Arguments = std::span<const Value>;
+
+[[nodiscard]] inline std::u16string_view TextArgument(const Value& argument) {
+  const auto* const text = std::get_if<std::u16string>(&argument);
+  return text != nullptr ? std::u16string_view(*text) : std::u16string_view();
+}
+
+[[nodiscard]] inline std::int32_t NumberArgument(const Value& argument) {
+  const auto* const number = std::get_if<std::int32_t>(&argument);
+  return number != nullptr ? *number : 0;
+}
+
+/// Numbers other than zero are true.
+[[nodiscard]] inline bool FlagArgument(const Value& argument) {
+  const auto* const flag = std::get_if<bool>(&argument);
+  return flag != nullptr ? *flag : NumberArgument(argument) != 0;
+}
+
+/// A number that counts calls, from 1 on. Raises the runtime error 5 for another one.
+[[nodiscard]] inline std::size_t CallArgument(const Value& argument) {
+  const std::int32_t number = NumberArgument(argument);
+  if (number < 1) {
+    throw toolkit::RuntimeError(toolkit::kInvalidCall);
+  }
+  return static_cast<std::size_t>(number);
+}
+
+}  // namespace qorltst::simulator

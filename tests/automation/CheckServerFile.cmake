@@ -1,0 +1,27 @@
+# Checks what a server library (FILE) offers and needs: the four entry points, undecorated, and system libraries only.
+
+execute_process(COMMAND "${OBJDUMP}" -p "${FILE}" OUTPUT_VARIABLE dump RESULT_VARIABLE failed)
+if(failed)
+  message(FATAL_ERROR "${OBJDUMP} cannot read ${FILE}")
+endif()
+
+string(REGEX MATCH "\\[Ordinal/Name Pointer\\] Table[^\n]*\n((\t\\[[^\n]*\n)+)" table "${dump}")
+string(REGEX MATCHALL "[A-Za-z_@0-9.]+\n" exports "${CMAKE_MATCH_1}")
+list(TRANSFORM exports STRIP)
+set(wanted DllCanUnloadNow DllGetClassObject DllRegisterServer DllUnregisterServer)
+if(NOT exports STREQUAL wanted)
+  message(FATAL_ERROR "${FILE} exports ${exports}, not ${wanted}")
+endif()
+
+string(REGEX MATCHALL "DLL Name: [^\n]+" imports "${dump}")
+list(TRANSFORM imports REPLACE "DLL Name: " "")
+list(TRANSFORM imports TOLOWER)
+if(NOT imports)
+  message(FATAL_ERROR "no imports found in ${FILE}")
+endif()
+foreach(import ${imports})
+  if(NOT import MATCHES "^(kernel32|user32|advapi32|ole32|oleaut32|msvcrt|shell32)\\.dll$")
+    message(FATAL_ERROR "${FILE} needs ${import}")
+  endif()
+endforeach()
+message(STATUS "${FILE}: exports ${exports}; imports ${imports}")
