@@ -11,8 +11,8 @@ depth = 0
 ' A line of the section; what is empty is left out.
 Sub Show(label, value)
   Dim text
-  text = CStr(value)
-  If text = "" Or text = "False" Then Exit Sub
+  text = Trim(CStr(value))
+  If text = "" Or text = "-" Or text = "False" Then Exit Sub
   Dim gap
   gap = kLabelWidth - 2 * depth - Len(label)
   If gap < 1 Then gap = 1
@@ -39,6 +39,10 @@ Function MeaningOf(code)
   End Select
 End Function
 
+Function DayText(moment)
+  DayText = Year(moment) & "-" & Right("0" & Month(moment), 2) & "-" & Right("0" & Day(moment), 2)
+End Function
+
 Sub ShowHeader(header)
   Begin "Header"
   Show "Number", header.ElementNumber
@@ -46,7 +50,7 @@ Sub ShowHeader(header)
   Show "Pricing", header.PricingId
   Show "Last modified", header.LastModifDate
   Show "Office and agent", header.OfficeId & " " & header.AgentDutyCode
-  If header.LastDateFromTst <> 0 Then Show "Last date", Year(header.LastDateFromTst) & "-" & Right("0" & Month(header.LastDateFromTst), 2) & "-" & Right("0" & Day(header.LastDateFromTst), 2)
+  If header.LastDateFromTst <> 0 Then Show "Last date", DayText(header.LastDateFromTst)
   Show "Origin and destination", header.OriginDestinationId & " " & header.OriginDestinationData
   Show "International sale", header.InternationalSalesId
   Show "Fare calculation", header.FareCalculationType & " " & header.FareCalculationModeIndicator
@@ -70,7 +74,8 @@ Sub ShowSegments(tst)
   Dim segment
   For Each segment In tst.AirSegments
     Begin "Flight " & segment.AirLine & segment.FlightNumber
-    Show "From, class, date, time", segment.BoardPoint & " " & segment.Class & " " & segment.DepartureDate & " " & segment.DepartureTime
+    Show "From, class, date, time", segment.BoardPoint & " " & segment.Class & " " & segment.DepartureDate & " " & _
+      segment.DepartureTime
     Show "Status", segment.ReservationStatus
     Show "Fare basis", segment.FareBasisId
     Show "Valid", segment.NotValidBefore & "-" & segment.NotValidAfter
@@ -78,7 +83,8 @@ Sub ShowSegments(tst)
     Finish
   Next
   For Each segment In tst.AirOpenSegments
-    Show "Open segment", segment.AirLine & " from " & segment.BoardPoint & " " & segment.Class & " " & segment.FareBasisId
+    Show "Open segment", segment.AirLine & " from " & segment.BoardPoint & " " & segment.Class & " " & _
+      segment.FareBasisId
   Next
   For Each segment In tst.ARNKSegments
     Show "Surface segment", "from " & segment.BoardPoint
@@ -101,7 +107,8 @@ Sub ShowFares(tst)
   Show "Total", tst.TotalCurrencyCode & " " & tst.TotalCollectionAmount
   Show "Banker's rate", tst.TotalBankersRateId & " " & tst.TotalRateExchange
   For Each fare In tst.PublishedAndNetFares
-    Show "Published or net fare " & fare.PubAndNetFaresId, fare.PubAndNetFaresCurrencyCode & " " & fare.PubAndNetFaresBase
+    Show "Published or net fare " & fare.PubAndNetFaresId, fare.PubAndNetFaresCurrencyCode & " " & _
+      fare.PubAndNetFaresBase
   Next
   Show "Payment restriction", tst.PaymentRestrictionLineFreeFlowText
   Show "ZapOff", tst.ZapOff
@@ -112,7 +119,8 @@ Sub ShowTicketing(tst)
   Dim element
   Begin "Ticketing"
   For Each element In tst.FMElements
-    Show "Commission " & element.ElementNumber, element.CommissionPercent & "%" & element.CommissionFlatAmount
+    If element.CommissionPercent <> "" Then Show "Commission " & element.ElementNumber, element.CommissionPercent & "%"
+    Show "Commission amount " & element.ElementNumber, element.CommissionFlatAmount
   Next
   For Each element In tst.FPElements
     Show "Form of payment " & element.ElementNumber, element.NewFOP
@@ -131,7 +139,8 @@ Sub ShowTicketing(tst)
     Show "Issued", element.OriginalIssueCity & " " & element.OriginalIssueDate & " " & element.OriginalIssueIata
     Show "Coupons", element.OriginalIssueCoupon
     Show "In exchange, first", element.IssuedInExchangeNumAirline & "-" & element.IssuedInExchangeDocumentNumber
-    Show "In exchange, second", element.SecIssuedInExchangeNumAirline & "-" & element.SecIssuedInExchangeDocumentNumber
+    Show "In exchange, second", element.SecIssuedInExchangeNumAirline & "-" & _
+      element.SecIssuedInExchangeDocumentNumber
     Show "Amount", element.CurrencyCode & " " & element.Amount
     Show "Base fare, tax, penalty", element.BaseFare & " " & element.Tax & " " & element.Penalty
     Finish
@@ -179,7 +188,9 @@ End Sub
 Sub ShowSymbols(symbols)
   Dim symbol
   For Each symbol In symbols
-    Show "Symbols", symbol.StopOverNotAllowed & symbol.GapInRoutingIncludedInMileage & symbol.GapInRoutinNotInMileage & symbol.ExtraMileageRoutingPoint & symbol.TicketedPointNotInMileage & symbol.ReducedMileageRoutingPoint & symbol.OtherSymbol
+    Show "Symbols", symbol.StopOverNotAllowed & symbol.GapInRoutingIncludedInMileage & _
+      symbol.GapInRoutinNotInMileage & symbol.ExtraMileageRoutingPoint & symbol.TicketedPointNotInMileage & _
+      symbol.ReducedMileageRoutingPoint & symbol.OtherSymbol
   Next
 End Sub
 
@@ -214,7 +225,8 @@ Sub ShowFareCalculation(calculation)
   Dim item, point
   If calculation.Text = "" Then Exit Sub
   Begin "Fare calculation"
-  Show "Departure", calculation.DepartureRoutingPoint.CityCode & " " & calculation.DepartureRoutingPoint.DepartureRoutingDate
+  Set point = calculation.DepartureRoutingPoint
+  Show "Departure", point.CityCode & " " & point.DepartureRoutingDate
   For Each item In calculation.Itineraries
     Begin "To " & item.CityCode & " with " & item.ItineraryCarrierCode
     ShowSymbols item.AnySymbols
