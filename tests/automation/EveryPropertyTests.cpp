@@ -6,11 +6,8 @@
 #include <string>
 
 #include "automation/Text.h"
-#include "frame/Element.h"
-#include "frame/PublicClasses.h"
 #include "support/Client.h"
-#include "toolkit/RuntimeError.h"
-#include "toolkit/Toolkit.h"
+#include "support/NoToolkit.h"
 
 namespace qorltst::automation::test {
 namespace {
@@ -19,13 +16,6 @@ constexpr HRESULT kUnexpected = static_cast<HRESULT>(0x8004270F);
 constexpr std::size_t kDispatchEntries = 7;
 constexpr double kDay = 46376.25;
 constexpr std::int64_t kAmount = 1'205'000;
-
-/// No toolkit is installed as far as these objects know.
-class NoToolkit final : public toolkit::Toolkit {
- public:
-  Ref<toolkit::ParseNode> CreateParser() override { throw toolkit::RuntimeError(toolkit::kObjectNotSet); }
-  Ref<toolkit::HostLogger> CreateLogger() override { throw toolkit::RuntimeError(toolkit::kObjectNotSet); }
-};
 
 std::string Ascii(std::u16string_view text) { return {text.begin(), text.end()}; }
 
@@ -49,18 +39,12 @@ struct Filler {
 /// Calls `visit(object, client)` for a filled object of each class that callers can create.
 template <class Visit>
 void ForEachFilled(Visit&& visit) {
-  const Ref<NoToolkit> toolkit = Make<NoToolkit>();
-  for (const ClassDescription* const description : PublicClasses()) {
-    if (description->create == nullptr) {
-      continue;
+  ForEachNewObject([&](Object& object) {
+    for (const Member& row : object.Description().members) {
+      std::visit(Filler{object, row}, row.access);
     }
-    SCOPED_TRACE(Ascii(description->name));
-    const Ref<Object> object = description->create(*toolkit);
-    for (const Member& row : description->members) {
-      std::visit(Filler{*object, row}, row.access);
-    }
-    visit(*object, Client(*object));
-  }
+    visit(object, Client(object));
+  });
 }
 
 /// The place of a row's getter behind the entries of IDispatch: a row with a setter takes two.
