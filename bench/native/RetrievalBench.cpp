@@ -33,7 +33,7 @@ qorltst::Ref<SimulatedToolkit> ToolkitWithoutLog() {
 
 void CreateAnElement(benchmark::State& state) {
   const auto toolkit = ToolkitWithoutLog();
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(Make<qorltst::AirSegment>(*toolkit));
   }
 }
@@ -41,7 +41,7 @@ BENCHMARK(CreateAnElement);
 
 void CreateARootObject(benchmark::State& state) {
   const auto toolkit = ToolkitWithoutLog();
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(Make<qorltst::TST>(*toolkit));
   }
 }
@@ -53,7 +53,7 @@ void FillASegment(benchmark::State& state) {
   const auto node = Node(230, u"AIR 1 QX 411 Y 12NOV 0910 OK",
                          {Node(2699, u"1"), Node(3, u"QX"), Node(95, u"411"), Node(93, u"Y"), Node(94, u"12NOV"),
                           Node(99, u"0910"), Node(96, u"OK")});
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     const auto segment = Make<qorltst::AirSegment>(*toolkit);
     segment->FillWithData(*node.Get());
     benchmark::DoNotOptimize(segment);
@@ -65,7 +65,7 @@ void RetrieveADisplay(benchmark::State& state, const char* display) {
   const auto toolkit = ToolkitWithoutLog();
   const auto recording =
       qorltst::simulator::ReadRecording(std::filesystem::path(QORL_SOURCE_DIR) / "examples/displays" / display);
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     const auto session = Make<qorltst::simulator::RecordedSession>(recording);
     const auto tst = Make<qorltst::TST>(*toolkit);
     benchmark::DoNotOptimize(tst->RetrieveCurrentTst(session.Get()));

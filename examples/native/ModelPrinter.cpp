@@ -68,7 +68,7 @@ void ModelPrinter::Print(Object& object, std::size_t depth) {
     } else if (const auto* const amount = std::get_if<CurrencyField>(&row.access)) {
       PrintLine(depth, row.name, AmountText(amount->in(object)));
     } else if (const auto* const child = std::get_if<ObjectField>(&row.access)) {
-      PrintObject(depth, row.name, child->in(object));
+      PrintObject(depth, row.name, *child->in(object));
     }
   }
 }
@@ -79,12 +79,12 @@ void ModelPrinter::PrintLine(std::size_t depth, std::u16string_view name, std::s
        << simulator::ToUtf8(name) << ' ' << value << '\n';
 }
 
-void ModelPrinter::PrintObject(std::size_t depth, std::u16string_view name, Object* value) {
+void ModelPrinter::PrintObject(std::size_t depth, std::u16string_view name, Object& value) {
   const std::string indent(depth * kIndent, ' ');
-  const auto* const collection = dynamic_cast<const Collection*>(value);
+  const auto* const collection = dynamic_cast<const Collection*>(&value);
   if (collection == nullptr) {
     out_ << indent << simulator::ToUtf8(name) << '\n';
-    Print(*value, depth + 1);
+    Print(value, depth + 1);
     return;
   }
   for (std::int32_t i = 1; i <= collection->Count(); ++i) {

@@ -18,7 +18,7 @@ class ModelPrinter {
 
  private:
   void PrintLine(std::size_t depth, std::u16string_view name, std::string_view value);
-  void PrintObject(std::size_t depth, std::u16string_view name, Object* value);
+  void PrintObject(std::size_t depth, std::u16string_view name, Object& value);
 
   std::ostream& out_;
 };

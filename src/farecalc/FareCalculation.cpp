@@ -134,7 +134,6 @@ FareCalculation::FareCalculation(toolkit::Toolkit& toolkit)
       extraSeats_(Make<Collection>()),
       fareMinimums_(Make<Collection>()),
       itineraryCompositeElements_(Make<Collection>()),
-      endLine_(),
       departureRoutingPoint_(Make<DepartureRoutingPoint>(toolkit)),
       higherClassDifferentials_(Make<Collection>()) {
   endLine_ = Make<EndLine>(toolkit);  // after the departure point, whose debug id comes first
