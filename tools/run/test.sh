@@ -1,0 +1,95 @@
+#: ./run test    format, tests, sanitizers, Windows tests under Wine; ends with "N passed, N failed, N skipped"
+
+# The number in an attribute of ctest's report.
+reported() { grep -oE "\b$2=\"[0-9]+\"" "$1" | head -n 1 | tr -dc 0-9; }
+
+# add_report <report> <status of the run>: adds a run's tests to the sums.
+add_report() {
+  local report=$1 total bad left
+  if [[ ! -s $report ]]; then
+    failed=$((failed + 1))
+    return 0
+  fi
+  total=$(reported "$report" tests)
+  bad=$(reported "$report" failures)
+  left=$(($(grep -c '<skipped' "$report" || true) + $(reported "$report" disabled)))
+  # A run that failed without a failed test (a program that could not be asked for its tests) counts as one failure.
+  [[ $2 -eq 0 || $bad -gt 0 ]] || failed=$((failed + 1))
+  passed=$((passed + total - bad - left))
+  failed=$((failed + bad))
+  skipped=$((skipped + left))
+  say "  $((total - bad - left)) passed, $bad failed, $left skipped"
+}
+
+# ctest_step <preset>: runs its tests, each in a process of its own. Which tests there are, CMake decides: those that
+# need Wine are there where Wine is.
+ctest_step() {
+  local preset=$1 report=$kRoot/build/$1/tests.xml status=0
+  rm -f "$report"
+  step "$preset tests" ctest --preset "$preset" --output-junit "$report" || status=$?
+  add_report "$report" "$status"
+}
+
+# program_step <preset> <program>: runs a test program at one go and adds its tests to the sums.
+program_step() {
+  local preset=$1 report=$kRoot/build/$1/tests.xml status=0
+  rm -f "$report"
+  step "$preset tests" "$kRoot/build/$preset/$2" --gtest_brief=1 "--gtest_output=xml:$report" || status=$?
+  add_report "$report" "$status"
+}
+
+test_native() {
+  if checked "native-release build" compile native-release; then
+    ctest_step native-release
+  fi
+}
+
+# One process for all tests, so that what they leave behind adds up; the sanitizers look for leaks at its end.
+test_sanitized() {
+  if ! can_sanitize; then
+    say "The sanitizers are left out: they need ${kSanitizerPrograms[*]}"
+    return 0
+  fi
+  if checked "native-sanitize build" compile native-sanitize; then
+    export LLVM_PROFILE_FILE=$kRoot/build/native-sanitize/profiles/%m-%p.profraw UBSAN_OPTIONS=print_stacktrace=1
+    rm -rf "$kRoot/build/native-sanitize/profiles"
+    program_step native-sanitize qorl_tests
+  fi
+}
+
+test_windows_x64() {
+  checked "windows-x64 build" compile windows-x64 || return 0
+  if can_run_windows; then
+    checked "wine prefix" start_wine || return 0
+  else
+    say "windows-x64: tests that run under Wine are left out; they need ${kWinePrograms[*]}; the files are checked"
+  fi
+  ctest_step windows-x64
+}
+
+test_windows_x86() {
+  local -a targets=(all)
+  if ! can_run_windows_x86; then
+    say "windows-x86: tests that run under Wine are left out, as wine32 is not installed; the files are checked"
+    targets=(QorlTST QorlHostToolkit)
+  fi
+  checked "windows-x86 build" compile windows-x86 --target "${targets[@]}" || return 0
+  ctest_step windows-x86
+}
+
+command_test() {
+  provide "${kNativePackages[@]}" clang-format "${kSanitizerPackages[@]}" "${kWindowsPackages[@]}" "${kWinePackages[@]}"
+  require "The tests" "${kNativePrograms[@]}"
+  lint_format
+  test_native
+  test_sanitized
+  if can_build_windows; then
+    test_windows_x64
+    test_windows_x86
+  else
+    say "The Windows tests are left out: they need ${kWindowsPrograms[*]}"
+  fi
+  stop_wine
+  say "$passed passed, $failed failed, $skipped skipped"
+  [[ $failed -eq 0 ]]
+}
