@@ -2,7 +2,6 @@
 #pragma once
 
 #include <span>
-#include <string_view>
 
 #include "frame/Value.h"
 #include "toolkit/RuntimeError.h"
@@ -11,25 +10,15 @@ namespace qorltst::simulator {
 
 using Arguments = std::span<const Value>;
 
-[[nodiscard]] inline std::u16string_view TextArgument(const Value& argument) {
-  const auto* const text = std::get_if<std::u16string>(&argument);
-  return text != nullptr ? std::u16string_view(*text) : std::u16string_view();
-}
-
-[[nodiscard]] inline std::int32_t NumberArgument(const Value& argument) {
-  const auto* const number = std::get_if<std::int32_t>(&argument);
-  return number != nullptr ? *number : 0;
-}
-
 /// Numbers other than zero are true.
 [[nodiscard]] inline bool FlagArgument(const Value& argument) {
   const auto* const flag = std::get_if<bool>(&argument);
-  return flag != nullptr ? *flag : NumberArgument(argument) != 0;
+  return flag != nullptr ? *flag : NumberIn(argument) != 0;
 }
 
 /// A number that counts calls, from 1 on. Raises the runtime error 5 for another one.
 [[nodiscard]] inline std::size_t CallArgument(const Value& argument) {
-  const std::int32_t number = NumberArgument(argument);
+  const std::int32_t number = NumberIn(argument);
   if (number < 1) {
     throw toolkit::RuntimeError(toolkit::kInvalidCall);
   }

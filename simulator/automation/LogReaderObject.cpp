@@ -19,7 +19,7 @@ Value CallCount(Object& /*object*/, Arguments /*none*/) { return static_cast<std
 
 Value CallItem(Object& /*object*/, Arguments arguments) {
   const auto entries = ProcessLog().Entries();
-  const std::int32_t index = NumberArgument(arguments[0]);
+  const std::int32_t index = NumberIn(arguments[0]);
   if (index < 1 || static_cast<std::size_t>(index) > entries.size()) {
     throw toolkit::RuntimeError(toolkit::kSubscriptOutOfRange);
   }

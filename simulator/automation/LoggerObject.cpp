@@ -11,13 +11,13 @@ namespace {
 toolkit::HostLogger& LoggerOf(Object& object) { return static_cast<LoggerObject&>(object).Logger(); }
 
 Value CallSetApplication(Object& object, Arguments arguments) {
-  LoggerOf(object).SetApplication(TextArgument(arguments[0]));
+  LoggerOf(object).SetApplication(TextIn(arguments[0]));
   return {};
 }
 
 Value CallWrite(Object& object, Arguments arguments) {
-  LoggerOf(object).Write(NumberArgument(arguments[0]), TextArgument(arguments[1]), NumberArgument(arguments[2]),
-                         TextArgument(arguments[3]));
+  LoggerOf(object).Write(NumberIn(arguments[0]), TextIn(arguments[1]), NumberIn(arguments[2]),
+                         TextIn(arguments[3]));
   return {};
 }
 

@@ -69,15 +69,15 @@ toolkit::ParseNode& StartOf(Object& object, const Value& start) {
 }
 
 Value CallParse(Object& object, Arguments arguments) {
-  return NodeOf(object).Parse(TextArgument(arguments[0]), NumberArgument(arguments[1]));
+  return NodeOf(object).Parse(TextIn(arguments[0]), NumberIn(arguments[1]));
 }
 
 Value CallFindNode(Object& object, Arguments arguments) {
-  return Shown(StartOf(object, arguments[1]).FindNode(toolkit::NodeTypeId{NumberArgument(arguments[0])}));
+  return Shown(StartOf(object, arguments[1]).FindNode(toolkit::NodeTypeId{NumberIn(arguments[0])}));
 }
 
 Value CallItem(Object& object, Arguments arguments) {
-  return ShownItem(NodeOf(object).Item(NumberArgument(arguments[0])));
+  return ShownItem(NodeOf(object).Item(NumberIn(arguments[0])));
 }
 
 Value CallTypeId(Object& object, Arguments /*none*/) { return static_cast<std::int32_t>(NodeOf(object).TypeId()); }

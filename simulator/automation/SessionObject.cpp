@@ -16,17 +16,17 @@ RecordedSession& SessionOf(Object& object) { return static_cast<SessionObject&>(
 
 Value CallSendCommand(Object& object, Arguments arguments) {
   Ref<toolkit::HostResponse> response =
-      SessionOf(object).SendCommand(TextArgument(arguments[0]), FlagArgument(arguments[1]));
+      SessionOf(object).SendCommand(TextIn(arguments[0]), FlagArgument(arguments[1]));
   return response ? Ref<Object>(Make<ResponseObject>(std::move(response))) : nullptr;
 }
 
 Value CallSetOption(Object& object, Arguments arguments) {
-  SessionOf(object).SetOption(NumberArgument(arguments[0]), FlagArgument(arguments[1]));
+  SessionOf(object).SetOption(NumberIn(arguments[0]), FlagArgument(arguments[1]));
   return {};
 }
 
 Value CallLoad(Object& object, Arguments arguments) {
-  static_cast<SessionObject&>(object).Load(TextArgument(arguments[0]));
+  static_cast<SessionObject&>(object).Load(TextIn(arguments[0]));
   return {};
 }
 
@@ -36,7 +36,7 @@ Value CallAnswerNothingAt(Object& object, Arguments arguments) {
 }
 
 Value CallFailAt(Object& object, Arguments arguments) {
-  SessionOf(object).FailAt(CallArgument(arguments[0]), NumberArgument(arguments[1]));
+  SessionOf(object).FailAt(CallArgument(arguments[0]), NumberIn(arguments[1]));
   return {};
 }
 

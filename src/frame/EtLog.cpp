@@ -44,16 +44,6 @@ void Ignoring(Step&& step) noexcept {
   }
 }
 
-std::u16string_view TextArgument(const Value& argument) {
-  const auto* const text = std::get_if<std::u16string>(&argument);
-  return text != nullptr ? std::u16string_view(*text) : std::u16string_view();
-}
-
-std::int32_t NumberArgument(const Value& argument) {
-  const auto* const number = std::get_if<std::int32_t>(&argument);
-  return number != nullptr ? *number : 0;
-}
-
 EtLog& LogOf(Object& object) { return static_cast<EtLog&>(object); }
 
 constexpr std::array kLogParameters{Parameter{u"strSource", ValueType::String, true},
@@ -73,26 +63,26 @@ using Arguments = std::span<const Value>;
 template <void (EtLog::*Operation)(std::int16_t, std::u16string_view, std::u16string_view, std::u16string_view,
                                    std::int32_t) noexcept>
 Value CallRuntimeError(Object& object, Arguments arguments) {
-  (LogOf(object).*Operation)(static_cast<std::int16_t>(NumberArgument(arguments[0])), TextArgument(arguments[1]),
-                             TextArgument(arguments[2]), TextArgument(arguments[3]), NumberArgument(arguments[4]));
+  (LogOf(object).*Operation)(static_cast<std::int16_t>(NumberIn(arguments[0])), TextIn(arguments[1]),
+                             TextIn(arguments[2]), TextIn(arguments[3]), NumberIn(arguments[4]));
   return {};
 }
 
 template <void (EtLog::*Operation)(std::int32_t, std::u16string_view) noexcept>
 Value CallHostError(Object& object, Arguments arguments) {
-  (LogOf(object).*Operation)(NumberArgument(arguments[0]), TextArgument(arguments[1]));
+  (LogOf(object).*Operation)(NumberIn(arguments[0]), TextIn(arguments[1]));
   return {};
 }
 
 template <void (EtLog::*Operation)(std::u16string_view, std::u16string_view) noexcept>
 Value CallTexts(Object& object, Arguments arguments) {
-  (LogOf(object).*Operation)(TextArgument(arguments[0]), TextArgument(arguments[1]));
+  (LogOf(object).*Operation)(TextIn(arguments[0]), TextIn(arguments[1]));
   return {};
 }
 
 Value ReadSource(Object& object, Arguments /*none*/) { return std::u16string(LogOf(object).Source()); }
 
-void PutSource(Object& object, const Value& value) { LogOf(object).SetSource(TextArgument(value)); }
+void PutSource(Object& object, const Value& value) { LogOf(object).SetSource(TextIn(value)); }
 
 }  // namespace
 

@@ -28,9 +28,7 @@ Value CallRetrieveCurrent(Object& object, Arguments arguments) {
 }
 
 Value CallRetrieveSpecific(Object& object, Arguments arguments) {
-  const auto* const command = std::get_if<std::u16string>(&arguments[1]);
-  return TstOf(object).RetrieveSpecificTst(SessionArgument(arguments[0]),
-                                           command != nullptr ? std::u16string_view(*command) : std::u16string_view());
+  return TstOf(object).RetrieveSpecificTst(SessionArgument(arguments[0]), TextIn(arguments[1]));
 }
 
 /// A caller may put a collection of its own in the place of this one, but not nothing.

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <variant>
 
 #include "toolkit/HostSession.h"
@@ -43,5 +44,17 @@ enum class ValueType : std::uint8_t {
 /// A value on its way in or out. The first alternative also stands for an argument that was left out.
 using Value = std::variant<std::monostate, std::int32_t, bool, Date, Currency, std::u16string, Ref<Object>,
                            Ref<toolkit::HostSession>, Ref<Cursor>>;
+
+/// The text that a value is; empty for a left-out argument.
+[[nodiscard]] inline std::u16string_view TextIn(const Value& value) noexcept {
+  const auto* const text = std::get_if<std::u16string>(&value);
+  return text != nullptr ? std::u16string_view(*text) : std::u16string_view();
+}
+
+/// The number that a value is; 0 for a left-out argument.
+[[nodiscard]] inline std::int32_t NumberIn(const Value& value) noexcept {
+  const auto* const number = std::get_if<std::int32_t>(&value);
+  return number != nullptr ? *number : 0;
+}
 
 }  // namespace qorltst

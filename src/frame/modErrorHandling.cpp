@@ -18,7 +18,8 @@ std::u16string modErrorHandling::GetErrorMessage(std::int32_t /*number*/) { retu
 
 void modErrorHandling::RaiseError(std::int32_t number, std::u16string_view source) {
   const std::int64_t raised = kAutomationErrorBase + number;
-  if (raised < std::numeric_limits<std::int32_t>::min() || raised > std::numeric_limits<std::int32_t>::max()) {
+  // The base is negative: a sum can only be too small.
+  if (raised < std::numeric_limits<std::int32_t>::min()) {
     throw RuntimeError(toolkit::kOverflow);
   }
   throw RuntimeError(static_cast<std::int32_t>(raised), source, GetErrorMessage(number));

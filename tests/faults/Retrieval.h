@@ -24,12 +24,14 @@ class Retrieval {
 
   [[nodiscard]] FaultPlan& Plan() const noexcept { return toolkit_->Plan(); }
 
-  /// Retrieves from the beginning of the recording.
-  std::int32_t Retrieve() {
+  /// A fresh session on the recording; the log is empty then.
+  [[nodiscard]] Ref<toolkit::HostSession> Session() const {
     simulated_->Log()->Clear();
-    const auto session = toolkit_->Wrap(Make<simulator::RecordedSession>(recording_));
-    return tst_->RetrieveCurrentTst(session.Get());
+    return toolkit_->Wrap(Make<simulator::RecordedSession>(recording_));
   }
+
+  /// Retrieves from the beginning of the recording.
+  std::int32_t Retrieve() { return tst_->RetrieveCurrentTst(Session().Get()); }
 
   [[nodiscard]] std::vector<simulator::LogEntry> Log() const { return simulated_->Log()->Entries(); }
   [[nodiscard]] TST& Root() const noexcept { return *tst_; }

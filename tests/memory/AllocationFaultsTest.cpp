@@ -31,9 +31,10 @@ struct Outcome {
 
 Outcome RetrieveWith(Retrieval& retrieval, std::size_t n, Extent extent) {
   Outcome outcome;
+  const auto session = retrieval.Session();
   const AllocationFault fault(n, extent);
   try {
-    outcome.code = retrieval.Retrieve();
+    outcome.code = retrieval.Root().RetrieveCurrentTst(session.Get());
   } catch (const RuntimeError& error) {
     outcome.began = false;
     EXPECT_EQ(error.Number(), kNotBegun);
@@ -102,6 +103,25 @@ INSTANTIATE_TEST_SUITE_P(Displays, AllocationFaults, ::testing::ValuesIn(testing
                            std::erase(name, '-');
                            return name;
                          });
+
+TEST(AllocationFaultsAtTheBeginning, AreTheErrorOfThePublicMethod) {
+  const simulator::Recording& recording = testing::SampleNamed("minimal").recording;
+  Retrieval retrieval(recording);
+  const auto session = retrieval.Session();
+  for (const bool current : {true, false}) {
+    const AllocationFault fault(1, Extent::One);
+    try {
+      current ? retrieval.Root().RetrieveCurrentTst(session.Get())
+              : retrieval.Root().RetrieveSpecificTst(session.Get(), u"TQT");
+      FAIL() << "the retrieval began without memory";
+    } catch (const RuntimeError& error) {
+      EXPECT_EQ(error.Number(), kNotBegun);
+      EXPECT_EQ(error.Source(), current ? u"TST:RetrieveCurrentTST Method" : u"TST:RetrieveSpecificTst Method");
+    }
+  }
+  EXPECT_TRUE(retrieval.Log().empty());
+  EXPECT_EQ(retrieval.Retrieve(), CleanRetrieval(recording).result);
+}
 
 class AllocationFaultsOfAClass : public ::testing::TestWithParam<const ClassDescription*> {};
 

@@ -32,9 +32,9 @@ ctest_step() {
 
 # program_step <preset> <program>: runs a test program at one go and adds its tests to the sums.
 program_step() {
-  local preset=$1 report=$kRoot/build/$1/tests.xml status=0
+  local report=$kRoot/build/$1/$2.xml status=0
   rm -f "$report"
-  step "$preset tests" "$kRoot/build/$preset/$2" --gtest_brief=1 "--gtest_output=xml:$report" || status=$?
+  step "$1 $2" "$kRoot/build/$1/$2" --gtest_brief=1 "--gtest_output=xml:$report" || status=$?
   add_report "$report" "$status"
 }
 
@@ -54,6 +54,8 @@ test_sanitized() {
     export LLVM_PROFILE_FILE=$kRoot/build/native-sanitize/profiles/%m-%p.profraw UBSAN_OPTIONS=print_stacktrace=1
     rm -rf "$kRoot/build/native-sanitize/profiles"
     program_step native-sanitize qorl_tests
+    program_step native-sanitize qorl_memory_tests
+    coverage_step native-sanitize qorl_tests qorl_memory_tests
   fi
 }
 
