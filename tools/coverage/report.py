@@ -4,7 +4,7 @@
 usage: report.py <llvm-cov's JSON export> <list of what cannot be reached>
 
 Each entry of the list is "file | the source line | reason". Fails where a line is not reached without a reason, and
-where a reason has outlived its line.
+where a reason has outlived its line; one that begins "now and then" may.
 """
 import collections
 import json
@@ -81,6 +81,8 @@ def main(export, list_file):
             wrong += key not in reasons
             print(f"  {file}:{line}: {what}: {key[1]}\n      {reasons.get(key, 'NOT REACHED, and no reason is given')}")
     for key in reasons.keys() - used:
+        if reasons[key].startswith("now and then"):
+            continue
         wrong += 1
         print(f"  {key[0]}: is reached, but has a reason why not: {key[1]}")
     for folder, (hit, all_lines, sides, all_sides) in sorted(totals.items()):
