@@ -52,9 +52,9 @@ AnyPFC::AnyPFC(toolkit::Toolkit& toolkit) : LineElement(toolkit), cityDigits_(Ma
 
 void AnyPFC::FillWithData(ParseNode& node) {
   Traced(kFillTexts, [&] {
-    const auto digits = Make<Collection>();
+    Gathering digits;
     TakeTexts(node);
-    const auto cities = [&](ParseNode& group) { BuildCityDigits(group, *digits); };
+    const auto cities = [&](ParseNode& group) { BuildCityDigits(group, digits); };
     const auto facilityCharge = [&](ParseNode& item) {
       paxFacilityCharge_ = true;
       Walk(item, On(NodeTypeId::FacilityCities, cities));
@@ -67,17 +67,13 @@ void AnyPFC::FillWithData(ParseNode& node) {
            On(NodeTypeId::PreviouslyPaidTax, Mark(previousPaid_)),
            On(NodeTypeId::PreviouslyPaidOther, Mark(previousPaid_)), On(NodeTypeId::CombinedTax, Mark(combinedTax_)),
            On(NodeTypeId::PassengerFacilityCharge, facilityCharge), On(NodeTypeId::DomesticUsFlight, segmentTax));
-    InstallFilled(cityDigits_, digits);
+    digits.InstallIn(cityDigits_);
   });
 }
 
-void AnyPFC::BuildCityDigits(ParseNode& node, Collection& digits) {
+void AnyPFC::BuildCityDigits(ParseNode& node, Gathering& digits) {
   Traced(kCityDigitTexts, [&] {
-    const auto add = [&](ParseNode& child) {
-      const auto digit = Make<CityDigit>(Toolkit());
-      digit->FillWithData(child);
-      digits.Add(digit);
-    };
+    const auto add = [&](ParseNode& child) { digits.AddFilled<CityDigit>(Toolkit(), child); };
     Walk(node, On(NodeTypeId::FacilityCityItem, add), On(NodeTypeId::SegmentTaxCityItem, add));
   });
 }

@@ -1,7 +1,7 @@
 // A facility charge or tax at the end of a fare calculation.
 #pragma once
 
-#include "frame/Collection.h"
+#include "frame/Gathering.h"
 #include "frame/LineElement.h"
 
 namespace qorltst {
@@ -21,7 +21,7 @@ class AnyPFC final : public LineElement {
  private:
   struct Table;
 
-  void BuildCityDigits(toolkit::ParseNode& node, Collection& digits);
+  void BuildCityDigits(toolkit::ParseNode& node, Gathering& digits);
 
   bool domesticUSFlight_ = false;
   Ref<Collection> cityDigits_;

@@ -72,7 +72,7 @@ EndLine::EndLine(toolkit::Toolkit& toolkit) : LineElement(toolkit), anyPFCs_(Mak
 
 void EndLine::FillWithData(ParseNode& node) {
   Trace(kFillTexts.begin);
-  const auto items = Make<Collection>();
+  Gathering items;
   TakeTexts(node);  // outside the trap: a failure here goes to the caller's, and that is meant
   endId_ = false;
   Trapped(kFillTexts.errorEnd, [&] {
@@ -83,25 +83,20 @@ void EndLine::FillWithData(ParseNode& node) {
                                        On(NodeTypeId::CurrencyCode, Text(fareAfterNucCurrencyCode_)),
                                        On(NodeTypeId::FareBasis, Text(fareAfterNucFareBasis_)));
     Walk(node, On(NodeTypeId::EndMarker, Mark(endId_)),
-         On(NodeTypeId::FacilityCharges, [&](ParseNode& child) { BuildAnyPFC(child, *items); }),
+         On(NodeTypeId::FacilityCharges, [&](ParseNode& child) { BuildAnyPFC(child, items); }),
          On(NodeTypeId::EndFreeFlowGroup, [this](ParseNode& child) { BuildFreeFlow(child); }),
          On(NodeTypeId::RateOfExchangeGroup, Children(On(NodeTypeId::RateOfExchange, Text(rateOfExchange_)))),
          On(NodeTypeId::TotalFareGroup,
             Children(On(NodeTypeId::TotalFareCurrency, Text(totalFareCurrencyCode_)),
                      On(NodeTypeId::FareAmount, Text(totalFareAmount_)), On(NodeTypeId::FareAfterNuc, fareAfterNuc))));
-    InstallFilled(anyPFCs_, items);
+    items.InstallIn(anyPFCs_);
   });
   Trace(kFillTexts.end);
 }
 
-void EndLine::BuildAnyPFC(ParseNode& node, Collection& items) {
-  Traced(kAnyPFCTexts, [&] {
-    ForEachChild(node, [&](ParseNode& child) {
-      const auto item = Make<AnyPFC>(Toolkit());
-      item->FillWithData(child);
-      items.Add(item);
-    });
-  });
+void EndLine::BuildAnyPFC(ParseNode& node, Gathering& items) {
+  Traced(kAnyPFCTexts,
+         [&] { ForEachChild(node, [&](ParseNode& child) { items.AddFilled<AnyPFC>(Toolkit(), child); }); });
 }
 
 void EndLine::BuildFreeFlow(ParseNode& node) {

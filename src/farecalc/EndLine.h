@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "frame/Collection.h"
+#include "frame/Gathering.h"
 #include "frame/LineElement.h"
 
 namespace qorltst {
@@ -23,7 +23,7 @@ class EndLine final : public LineElement {
  private:
   struct Table;
 
-  void BuildAnyPFC(toolkit::ParseNode& node, Collection& items);
+  void BuildAnyPFC(toolkit::ParseNode& node, Gathering& items);
   void BuildFreeFlow(toolkit::ParseNode& node);
 
   std::u16string freeFlowText_;  // shown to nobody, and that is meant

@@ -168,45 +168,41 @@ void FareCalculation::BuildEndLine(ParseNode& node) {
 
 void FareCalculation::BuildItineraryAndTheRest(ParseNode& node) {
   Traced(kItineraryAndTheRestTexts, [&] {
-    const auto itineraries = Make<Collection>();
-    const auto elements = Make<Collection>();
-    const auto minimums = Make<Collection>();
-    const auto differentials = Make<Collection>();
-    const auto seats = Make<Collection>();
-    Walk(
-        node,
-        On(NodeTypeId::Itinerary,
-           [&](ParseNode& child) { BuildItem<Itinerary>(kItinerariesTexts, child, *itineraries); }),
-        On(NodeTypeId::CompositeElement, [&](ParseNode& child) { BuildCompositeElement(child, *elements); }),
-        On(NodeTypeId::FareMinimum,
-           [&](ParseNode& child) { BuildItem<FareMinimun>(kFareMinimumTexts, child, *minimums); }),
-        On(NodeTypeId::FareCommon, [this](ParseNode& child) { BuildFareCommon(child); }),
-        On(NodeTypeId::HigherClassDifferential,
-           [&](ParseNode& child) { BuildItem<HigherClassDifferential>(kHigherClassDiffTexts, child, *differentials); }),
-        On(NodeTypeId::ExtraSeatFare, [&](ParseNode& child) { BuildItem<ExtraSeat>(kExtraSeatTexts, child, *seats); }),
-        On(NodeTypeId::FareWithStopOver, Children(On(NodeTypeId::FareAmount, Text(fareCommonAmount_)))));
-    InstallFilled(itineraries_, itineraries);
-    InstallFilled(itineraryCompositeElements_, elements);
-    InstallFilled(fareMinimums_, minimums);
-    InstallFilled(higherClassDifferentials_, differentials);
-    InstallFilled(extraSeats_, seats);
+    Gathering itineraries;
+    Gathering elements;
+    Gathering minimums;
+    Gathering differentials;
+    Gathering seats;
+    Walk(node,
+         On(NodeTypeId::Itinerary,
+            [&](ParseNode& child) { BuildItem<Itinerary>(kItinerariesTexts, child, itineraries); }),
+         On(NodeTypeId::CompositeElement, [&](ParseNode& child) { BuildCompositeElement(child, elements); }),
+         On(NodeTypeId::FareMinimum,
+            [&](ParseNode& child) { BuildItem<FareMinimun>(kFareMinimumTexts, child, minimums); }),
+         On(NodeTypeId::FareCommon, [this](ParseNode& child) { BuildFareCommon(child); }),
+         On(NodeTypeId::HigherClassDifferential,
+            [&](ParseNode& child) { BuildItem<HigherClassDifferential>(kHigherClassDiffTexts, child, differentials); }),
+         On(NodeTypeId::ExtraSeatFare, [&](ParseNode& child) { BuildItem<ExtraSeat>(kExtraSeatTexts, child, seats); }),
+         On(NodeTypeId::FareWithStopOver, Children(On(NodeTypeId::FareAmount, Text(fareCommonAmount_)))));
+    itineraries.InstallIn(itineraries_);
+    elements.InstallIn(itineraryCompositeElements_);
+    minimums.InstallIn(fareMinimums_);
+    differentials.InstallIn(higherClassDifferentials_);
+    seats.InstallIn(extraSeats_);
   });
 }
 
 template <class Item>
-void FareCalculation::BuildItem(const TraceTexts& texts, ParseNode& node, Collection& items) {
+void FareCalculation::BuildItem(const TraceTexts& texts, ParseNode& node, Gathering& items) {
   const auto item = Make<Item>(Toolkit());
   Traced(texts, [&] { item->FillWithData(node); });
   items.Add(item);
 }
 
-void FareCalculation::BuildCompositeElement(ParseNode& node, Collection& elements) {
+void FareCalculation::BuildCompositeElement(ParseNode& node, Gathering& elements) {
   Traced(kCompositeElementTexts, [&] {
-    ForEachCompositeItem(node, [&](ParseNode& item) {
-      const auto element = Make<ItineraryCompositeElement>(Toolkit());
-      element->FillWithData(item);
-      elements.Add(element);
-    });
+    ForEachCompositeItem(node,
+                         [&](ParseNode& item) { elements.AddFilled<ItineraryCompositeElement>(Toolkit(), item); });
   });
 }
 

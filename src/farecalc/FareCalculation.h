@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "frame/Collection.h"
+#include "frame/Gathering.h"
 #include "frame/LineElement.h"
 
 namespace qorltst {
@@ -30,13 +30,13 @@ class FareCalculation final : public LineElement {
   void BuildDeparturePoint(toolkit::ParseNode& node);
   void BuildEndLine(toolkit::ParseNode& node);
   void BuildItineraryAndTheRest(toolkit::ParseNode& node);
-  void BuildCompositeElement(toolkit::ParseNode& node, Collection& elements);
+  void BuildCompositeElement(toolkit::ParseNode& node, Gathering& elements);
   void BuildFareCommon(toolkit::ParseNode& node);
   void BuildFareWithStopOver(toolkit::ParseNode& node);
 
   /// Makes an item, fills it under the texts of its builder and adds it.
   template <class Item>
-  void BuildItem(const TraceTexts& texts, toolkit::ParseNode& node, Collection& items);
+  void BuildItem(const TraceTexts& texts, toolkit::ParseNode& node, Gathering& items);
 
   std::u16string fareCommonStopOverChargeValue_;
   std::u16string fareCommonNumberStopAllowed_;

@@ -4,6 +4,7 @@
 #include "farecalc/Fare.h"
 #include "farecalc/FareGroups.h"
 #include "farecalc/FareHigherIntermediate.h"
+#include "frame/Gathering.h"
 
 namespace qorltst {
 
@@ -79,13 +80,10 @@ void HigherClassDifferential::FillWithData(ParseNode& node) {
 
 void HigherClassDifferential::BuildFareHigherIntPoint(ParseNode& node) {
   Traced(kIntermediatePointTexts, [&] {
-    const auto points = Make<Collection>();
-    Walk(node, On(NodeTypeId::FareIntermediatePoint, [&](ParseNode& child) {
-           const auto point = Make<FareHigherIntermediate>(Toolkit());
-           point->FillWithData(child);
-           points->Add(point);
-         }));
-    InstallFilled(fareHigherIntermediates_, points);
+    Gathering points;
+    Walk(node, On(NodeTypeId::FareIntermediatePoint,
+                  [&](ParseNode& child) { points.AddFilled<FareHigherIntermediate>(Toolkit(), child); }));
+    points.InstallIn(fareHigherIntermediates_);
   });
 }
 

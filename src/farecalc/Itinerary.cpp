@@ -122,25 +122,25 @@ struct Itinerary::Texts {
 
 void Itinerary::FillWithData(ParseNode& node) {
   Traced(Texts::kFill, [&] {
-    const auto symbols = Make<Collection>();
-    const auto surcharges = Make<Collection>();
-    const auto rules = Make<Collection>();
-    const auto elements = Make<Collection>();
+    Gathering symbols;
+    Gathering surcharges;
+    Gathering rules;
+    Gathering elements;
     TakeTexts(node);
     WalkPoint(
-        node, Texts::kBuild, *rules, [this] { fareLessId_ = true; },
-        On(NodeTypeId::CompositeElement, [&](ParseNode& child) { BuildCompositeElement(child, *elements); }),
-        On(NodeTypeId::Symbols, [&](ParseNode& child) { BuildAnySymbolList(child, *symbols); }),
-        On(NodeTypeId::OtherSurcharges, [&](ParseNode& child) { BuildOtherSurcharges(child, *surcharges); }));
-    InstallFilled(anySymbols_, symbols);
-    InstallFilled(otherSurcharges_, surcharges);
-    InstallFilled(mileageEqualizationRules_, rules);
-    InstallFilled(itineraryCompositeElements_, elements);
+        node, Texts::kBuild, rules, [this] { fareLessId_ = true; },
+        On(NodeTypeId::CompositeElement, [&](ParseNode& child) { BuildCompositeElement(child, elements); }),
+        On(NodeTypeId::Symbols, [&](ParseNode& child) { BuildAnySymbolList(child, symbols); }),
+        On(NodeTypeId::OtherSurcharges, [&](ParseNode& child) { BuildOtherSurcharges(child, surcharges); }));
+    symbols.InstallIn(anySymbols_);
+    surcharges.InstallIn(otherSurcharges_);
+    rules.InstallIn(mileageEqualizationRules_);
+    elements.InstallIn(itineraryCompositeElements_);
   });
 }
 
 /// A node without children is no symbol, and then there is no end line either.
-void Itinerary::BuildAnySymbolList(ParseNode& node, Collection& symbols) {
+void Itinerary::BuildAnySymbolList(ParseNode& node, Gathering& symbols) {
   const auto symbol = Make<AnySymbol>(Toolkit());
   Trace(Texts::kAnySymbolList.begin);
   const bool isSymbol = Trapped(Texts::kAnySymbolList.errorEnd, [&] {
@@ -157,25 +157,18 @@ void Itinerary::BuildAnySymbolList(ParseNode& node, Collection& symbols) {
 }
 
 /// Each child is one surcharge; in a composite element the node itself is one.
-void Itinerary::BuildOtherSurcharges(ParseNode& node, Collection& surcharges) {
+void Itinerary::BuildOtherSurcharges(ParseNode& node, Gathering& surcharges) {
   Traced(Texts::kOtherSurcharges, [&] {
     if (node.HasChildren()) {
-      ForEachChild(node, [&](ParseNode& child) {
-        const auto surcharge = Make<OtherSurcharge>(Toolkit());
-        surcharge->FillWithData(child);
-        surcharges.Add(surcharge);
-      });
+      ForEachChild(node, [&](ParseNode& child) { surcharges.AddFilled<OtherSurcharge>(Toolkit(), child); });
     }
   });
 }
 
-void Itinerary::BuildCompositeElement(ParseNode& node, Collection& elements) {
+void Itinerary::BuildCompositeElement(ParseNode& node, Gathering& elements) {
   Traced(Texts::kCompositeElement, [&] {
-    ForEachCompositeItem(node, [&](ParseNode& item) {
-      const auto element = Make<ItineraryCompositeElement>(Toolkit());
-      element->FillWithData(item);
-      elements.Add(element);
-    });
+    ForEachCompositeItem(node,
+                         [&](ParseNode& item) { elements.AddFilled<ItineraryCompositeElement>(Toolkit(), item); });
   });
 }
 

@@ -20,9 +20,9 @@ class Itinerary final : public RoutingElement {
  private:
   struct Table;
 
-  void BuildAnySymbolList(toolkit::ParseNode& node, Collection& symbols);
-  void BuildOtherSurcharges(toolkit::ParseNode& node, Collection& surcharges);
-  void BuildCompositeElement(toolkit::ParseNode& node, Collection& elements);
+  void BuildAnySymbolList(toolkit::ParseNode& node, Gathering& symbols);
+  void BuildOtherSurcharges(toolkit::ParseNode& node, Gathering& surcharges);
+  void BuildCompositeElement(toolkit::ParseNode& node, Gathering& elements);
 
   struct Texts;
 

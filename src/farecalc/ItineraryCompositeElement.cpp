@@ -133,21 +133,21 @@ struct ItineraryCompositeElement::Texts {
 
 void ItineraryCompositeElement::FillWithData(ParseNode& node) {
   Traced(Texts::kFill, [&] {
-    const auto surcharges = Make<Collection>();
-    const auto rules = Make<Collection>();
+    Gathering surcharges;
+    Gathering rules;
     TakeTexts(node);
     WalkPoint(
-        node, Texts::kBuild, *rules, [this] { fareLessId_ = kLessText; },
+        node, Texts::kBuild, rules, [this] { fareLessId_ = kLessText; },
         On(NodeTypeId::Symbols, Text(itinerarySymbol_)),
-        On(NodeTypeId::OtherSurcharges, [&](ParseNode& child) { BuildOtherSurcharge(child, *surcharges); }));
-    InstallFilled(otherSurcharges_, surcharges);
-    InstallFilled(mileageEqualizationRules_, rules);
+        On(NodeTypeId::OtherSurcharges, [&](ParseNode& child) { BuildOtherSurcharge(child, surcharges); }));
+    surcharges.InstallIn(otherSurcharges_);
+    rules.InstallIn(mileageEqualizationRules_);
   });
 }
 
 /// The node is one surcharge, filled from the node itself as often as it has children; this is meant. A node without
 /// children is none, and then there is no end line either.
-void ItineraryCompositeElement::BuildOtherSurcharge(ParseNode& node, Collection& surcharges) {
+void ItineraryCompositeElement::BuildOtherSurcharge(ParseNode& node, Gathering& surcharges) {
   const auto surcharge = Make<OtherSurcharge>(Toolkit());
   Trace(Texts::kOtherSurcharge.begin);
   const bool isSurcharge = Trapped(Texts::kOtherSurcharge.errorEnd, [&] {

@@ -22,7 +22,7 @@ class ItineraryCompositeElement final : public RoutingElement {
  private:
   struct Table;
 
-  void BuildOtherSurcharge(toolkit::ParseNode& node, Collection& surcharges);
+  void BuildOtherSurcharge(toolkit::ParseNode& node, Gathering& surcharges);
 
   struct Texts;
 

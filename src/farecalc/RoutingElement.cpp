@@ -40,13 +40,10 @@ void RoutingElement::BuildFareIntermediatePoint(ParseNode& node, const TraceText
   });
 }
 
-void RoutingElement::BuildMileageEqRule(ParseNode& node, const TraceTexts& texts, Collection& rules) {
+void RoutingElement::BuildMileageEqRule(ParseNode& node, const TraceTexts& texts, Gathering& rules) {
   Traced(texts, [&] {
-    Walk(node, On(NodeTypeId::MileageEqualizationItem, [&](ParseNode& child) {
-           const auto rule = Make<MileageEqualizationRule>(Toolkit());
-           rule->FillWithData(child);
-           rules.Add(rule);
-         }));
+    Walk(node, On(NodeTypeId::MileageEqualizationItem,
+                  [&](ParseNode& child) { rules.AddFilled<MileageEqualizationRule>(Toolkit(), child); }));
   });
 }
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "farecalc/FareGroups.h"
-#include "frame/Collection.h"
+#include "frame/Gathering.h"
 #include "frame/LineElement.h"
 
 namespace qorltst {
@@ -27,7 +27,7 @@ class RoutingElement : public LineElement {
   /// Reads the children that both classes know, and by `own` those of the class. Mileage equalization rules are
   /// gathered in `rules`.
   template <class MarkLess, class... Actions>
-  void WalkPoint(toolkit::ParseNode& node, const BuildTexts& texts, Collection& rules, MarkLess markLess,
+  void WalkPoint(toolkit::ParseNode& node, const BuildTexts& texts, Gathering& rules, MarkLess markLess,
                  const Rule<Actions>&... own);
 
   std::u16string carrierCode_;
@@ -55,7 +55,7 @@ class RoutingElement : public LineElement {
  private:
   void BuildMileageItem(toolkit::ParseNode& node, const TraceTexts& texts);
   void BuildFareIntermediatePoint(toolkit::ParseNode& node, const TraceTexts& texts);
-  void BuildMileageEqRule(toolkit::ParseNode& node, const TraceTexts& texts, Collection& rules);
+  void BuildMileageEqRule(toolkit::ParseNode& node, const TraceTexts& texts, Gathering& rules);
   void BuildLowestCombination(toolkit::ParseNode& node);
   void BuildStopOverCharge(toolkit::ParseNode& node);
   void BuildFictitiousPoint(toolkit::ParseNode& node);
@@ -63,7 +63,7 @@ class RoutingElement : public LineElement {
 };
 
 template <class MarkLess, class... Actions>
-void RoutingElement::WalkPoint(toolkit::ParseNode& node, const BuildTexts& texts, Collection& rules, MarkLess markLess,
+void RoutingElement::WalkPoint(toolkit::ParseNode& node, const BuildTexts& texts, Gathering& rules, MarkLess markLess,
                                const Rule<Actions>&... own) {
   using toolkit::NodeTypeId;
   using toolkit::ParseNode;

@@ -35,11 +35,4 @@ class Collection final : public Object {
   std::vector<Ref<Object>> items_;
 };
 
-/// Puts what a fill has gathered in the place of a collection, unless nothing was gathered.
-inline void InstallFilled(Ref<Collection>& collection, const Ref<Collection>& gathered) {
-  if (gathered->Count() > 0) {
-    collection = gathered;
-  }
-}
-
 }  // namespace qorltst

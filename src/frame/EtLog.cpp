@@ -1,6 +1,7 @@
 // Entries, their texts and the public table of the log front. See EtLog.h.
 #include "frame/EtLog.h"
 
+#include <algorithm>
 #include <array>
 
 #include "frame/modErrorHandling.h"
@@ -29,11 +30,29 @@ constexpr std::array kHostErrorTexts{
     HostErrorRow{toolkit::kSessionProblem, u"There is a problem with the connected session."},
 };
 
-std::u16string Joined(std::u16string_view first, std::u16string_view second) {
-  std::u16string joined;
-  joined.reserve(first.size() + second.size());
-  return joined.append(first).append(second);
-}
+/// Two texts as one. Most are as short as a source, and take no memory.
+class Joined {
+ public:
+  Joined(std::u16string_view first, std::u16string_view second) {
+    const std::size_t size = first.size() + second.size();
+    if (size <= short_.size()) {
+      std::copy(second.begin(), second.end(), std::copy(first.begin(), first.end(), short_.begin()));
+      view_ = {short_.data(), size};
+    } else {
+      long_.reserve(size);
+      view_ = long_.append(first).append(second);
+    }
+  }
+  Joined(const Joined&) = delete;
+  Joined& operator=(const Joined&) = delete;
+
+  [[nodiscard]] std::u16string_view View() const noexcept { return view_; }
+
+ private:
+  std::array<char16_t, 96> short_;
+  std::u16string long_;
+  std::u16string_view view_;
+};
 
 /// Every operation resumes after an error, as if nothing had happened.
 template <class Step>
@@ -163,8 +182,8 @@ void EtLog::WriteRuntimeError(toolkit::LogKind kind, std::u16string_view descrip
                               std::u16string_view message, std::int32_t hostError) noexcept {
   const RuntimeError* const pending = PendingError::Current();
   Ignoring([&] {
-    std::u16string text = Joined(description, u" - ");
-    Write(kind, source, pending != nullptr ? pending->Number() : 0, text.append(message));
+    const std::u16string text = std::u16string(description).append(u" - ").append(message);
+    Write(kind, source, pending != nullptr ? pending->Number() : 0, text);
   });
   if (hostError != 0) {
     LogHostError(hostError, source);
@@ -173,7 +192,7 @@ void EtLog::WriteRuntimeError(toolkit::LogKind kind, std::u16string_view descrip
 
 void EtLog::Write(toolkit::LogKind kind, std::u16string_view source, std::int32_t number,
                   std::u16string_view message) noexcept {
-  Ignoring([&] { Logger().Write(kind, Joined(Source(), source), number, message); });
+  Ignoring([&] { Logger().Write(kind, Joined(Source(), source).View(), number, message); });
 }
 
 toolkit::HostLogger& EtLog::Logger() {

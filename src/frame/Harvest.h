@@ -3,24 +3,22 @@
 
 #include <array>
 
-#include "frame/Collection.h"
+#include "frame/Gathering.h"
 #include "frame/TST.h"
 
 namespace qorltst {
 
-/// Eleven collections, empty at first. A walk that fails hands none of them over.
+/// Eleven gatherings. A walk that fails hands none of them over.
 class Harvest {
  public:
-  Harvest();
-
-  /// Appends an element in display order.
-  void Add(CollectionKind kind, Ref<Object> element);
+  /// Where the elements of a kind are gathered, in display order.
+  [[nodiscard]] Gathering& Of(CollectionKind kind) noexcept { return gathered_[static_cast<std::size_t>(kind)]; }
 
   /// Replaces those collections of `tst` for which there is something, in the order of the kinds.
   void HandOver(TST& tst) const;
 
  private:
-  std::array<Ref<Collection>, kCollectionKinds> collections_;
+  std::array<Gathering, kCollectionKinds> gathered_;
 };
 
 }  // namespace qorltst

@@ -42,9 +42,7 @@ void TstLine(TstParser& /*parser*/, ParseNode& node, TST& tst, Harvest& /*harves
 
 template <class ElementClass, CollectionKind CollectionOf>
 void AddFilled(TstParser& parser, ParseNode& node, Harvest& harvest) {
-  const auto element = Make<ElementClass>(parser.Toolkit());
-  element->FillWithData(node);
-  harvest.Add(CollectionOf, element);
+  harvest.Of(CollectionOf).AddFilled<ElementClass>(parser.Toolkit(), node);
 }
 
 /// A line that is one element of a collection.
