@@ -17,11 +17,15 @@ using ScreenKind = ScenarioScreen::Kind;
 /// Every node is asked for a handful of properties, and each screen and each parser costs a few calls more.
 constexpr std::size_t kMostCallsForEach = 16;
 
-/// How many nodes, screens and parsers there are.
+/// How many nodes, screens and parsers there are. A surcharge of a composite element is filled from all its children as
+/// often as it has children, which callers see in the log; nothing else is read more than once.
 std::size_t SizeOf(const Scenario& scenario) {
   std::size_t size = 4 + scenario.screens.size() + scenario.parsers.size();
   for (const ScenarioTree& tree : scenario.trees) {
     size += tree.size();
+    for (const ScenarioNode& node : tree) {
+      size += node.type == NodeTypeId::OtherSurcharges ? node.children.size() * node.children.size() : 0;
+    }
   }
   return size;
 }
