@@ -90,6 +90,10 @@ TEST(NumberText, OfANumberBeyondTheTypeIsAnOverflow) {
   EXPECT_EQ(NumberRaisedBy([] { (void)NumberTextOf(std::u16string(400, u'9')); }), toolkit::kOverflow);
 }
 
+TEST(NumberText, OfTheLargestNumberOfTheTypeIsRoundedUpBeyondIt) {
+  EXPECT_EQ(NumberTextOf(u"17976931348623157" + std::u16string(292, u'0')), u"1.79769313486232E+308");
+}
+
 TEST(NumberText, OfANumberTooSmallForTheTypeIsZero) {
   EXPECT_EQ(NumberTextOf(u"0." + std::u16string(400, u'0') + u"1"), u"0");
 }

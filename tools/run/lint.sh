@@ -2,7 +2,7 @@
 
 check_format() {
   local files
-  files=$(find src simulator tests tools bench examples \( -name '*.cpp' -o -name '*.h' \) -print0 |
+  files=$(find src simulator tests tools bench examples fuzz \( -name '*.cpp' -o -name '*.h' \) -print0 |
     xargs -0 -r clang-format --dry-run 2>&1 | sed -nE 's/^(.+\.(cpp|h)):[0-9]+:.*/\1/p' | sort -u)
   [[ -z $files ]] || { printf 'clang-format would change\n%s\n' "$files" && return 1; }
 }

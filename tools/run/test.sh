@@ -85,6 +85,7 @@ command_test() {
   lint_format
   test_native
   test_sanitized
+  test_fuzz
   if can_build_windows; then
     test_windows_x64
     test_windows_x86
