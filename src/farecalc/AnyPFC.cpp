@@ -32,7 +32,7 @@ struct AnyPFC::Table {
        .put = {ValueType::Boolean, false, &PutDomesticUSFlight},
        .help = u"Whether this is a domestic segment tax; a caller may change it."},
       ClassDebugIdMember(),
-      {.name = u"CityDigits", .access = Field<&AnyPFC::cityDigits_>(), .help = u"The amounts by airport."},
+      {.name = u"CityDigits", .access = Items<CityDigit, &AnyPFC::cityDigits_>(), .help = u"The amounts by airport."},
       {.name = u"CombinedTax", .access = Field<&AnyPFC::combinedTax_>(), .help = u"Whether this is a combined tax."},
       {.name = u"PaxFacilityCharge",
        .access = Field<&AnyPFC::paxFacilityCharge_>(),

@@ -28,7 +28,7 @@ struct EndLine::Table {
   static constexpr MemberTable kMembers{{
       {.name = u"EndId", .access = Field<&EndLine::endId_>(), .help = u"Whether the end marker was present."},
       {.name = u"AnyPFCs",
-       .access = Field<&EndLine::anyPFCs_>(),
+       .access = Items<AnyPFC, &EndLine::anyPFCs_>(),
        .help = u"The facility charges and taxes at the end of the line."},
       {.name = u"FareAfterNucLowCombCityCode",
        .access = Field<&EndLine::fareAfterNucLowCombCityCode_>(),

@@ -50,7 +50,7 @@ struct HigherClassDifferential::Table {
        .help = u"Whether the mileage marker is present."},
       {.name = u"Fare", .access = Field<&HigherClassDifferential::fare_>(), .help = u"The amount of the differential."},
       {.name = u"FareHigherIntermediates",
-       .access = Field<&HigherClassDifferential::fareHigherIntermediates_>(),
+       .access = Items<FareHigherIntermediate, &HigherClassDifferential::fareHigherIntermediates_>(),
        .help = u"The intermediate points."},
       {.name = u"MileagePercentage",
        .access = Field<&HigherClassDifferential::mileagePercentage_>(),

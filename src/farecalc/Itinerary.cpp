@@ -3,6 +3,7 @@
 
 #include "farecalc/AnySymbol.h"
 #include "farecalc/ItineraryCompositeElement.h"
+#include "farecalc/MileageEqualizationRule.h"
 #include "farecalc/OtherSurcharge.h"
 
 namespace qorltst {
@@ -41,13 +42,17 @@ struct Itinerary::Table {
       {.name = u"GlobalRoutingId",
        .access = Field<&Itinerary::globalRoutingId_>(),
        .help = u"The global routing indicator."},
-      {.name = u"AnySymbols", .access = Field<&Itinerary::anySymbols_>(), .help = u"The symbols at the point."},
+      {.name = u"AnySymbols",
+       .access = Items<AnySymbol, &Itinerary::anySymbols_>(),
+       .help = u"The symbols at the point."},
       {.name = u"ItineraryCompositeElements",
-       .access = Field<&Itinerary::itineraryCompositeElements_>(),
+       .access = Items<ItineraryCompositeElement, &Itinerary::itineraryCompositeElements_>(),
        .help = u"The composite elements."},
-      {.name = u"OtherSurcharges", .access = Field<&Itinerary::otherSurcharges_>(), .help = u"The surcharges."},
+      {.name = u"OtherSurcharges",
+       .access = Items<OtherSurcharge, &Itinerary::otherSurcharges_>(),
+       .help = u"The surcharges."},
       {.name = u"MileageEqualizationRules",
-       .access = Field<&Itinerary::mileageEqualizationRules_>(),
+       .access = Items<MileageEqualizationRule, &Itinerary::mileageEqualizationRules_>(),
        .help = u"The mileage equalizations."},
       {.name = u"FareHigherClass",
        .access = Field<&Itinerary::fareHigherClass_>(),

@@ -1,6 +1,7 @@
 // The public table and the fill. See ItineraryCompositeElement.h.
 #include "farecalc/ItineraryCompositeElement.h"
 
+#include "farecalc/MileageEqualizationRule.h"
 #include "farecalc/OtherSurcharge.h"
 
 namespace qorltst {
@@ -36,10 +37,10 @@ struct ItineraryCompositeElement::Table {
        .access = Field<&ItineraryCompositeElement::globalRoutingId_>(),
        .help = u"The global routing indicator."},
       {.name = u"OtherSurcharges",
-       .access = Field<&ItineraryCompositeElement::otherSurcharges_>(),
+       .access = Items<OtherSurcharge, &ItineraryCompositeElement::otherSurcharges_>(),
        .help = u"The surcharges."},
       {.name = u"MileageEqualizationRules",
-       .access = Field<&ItineraryCompositeElement::mileageEqualizationRules_>(),
+       .access = Items<MileageEqualizationRule, &ItineraryCompositeElement::mileageEqualizationRules_>(),
        .help = u"The mileage equalizations."},
       {.name = u"NumberStopAllowed",
        .access = Field<&ItineraryCompositeElement::numberStopAllowed_>(),

@@ -37,6 +37,8 @@ struct LongField {
 struct ObjectField {
   Object* (*in)(Object&);
   const ClassDescription* (*type)();
+  /// The class of a collection's objects; absent where the property holds a single object.
+  const ClassDescription* (*items)() = nullptr;
 };
 
 struct Parameter {
@@ -105,6 +107,12 @@ struct Pointee<Ref<T>> {
 
 }  // namespace detail
 
+/// A class as a row names it.
+template <class Class>
+const ClassDescription* DescriptionOf() {
+  return &Class::kDescription;
+}
+
 /// The access to a data member, or to a member of a group that is one, told apart by its type.
 template <auto... Path>
 consteval Access Field() {
@@ -112,11 +120,18 @@ consteval Access Field() {
   using T = typename Reach::Type;
   if constexpr (requires { typename detail::Pointee<T>::Type; }) {
     using Class = typename detail::Pointee<T>::Type;
-    return ObjectField{[](Object& object) -> Object* { return Reach::In(object).Get(); },
-                       [] { return &Class::kDescription; }};
+    return ObjectField{[](Object& object) -> Object* { return Reach::In(object).Get(); }, &DescriptionOf<Class>};
   } else {
     return FieldOf<T>{&Reach::In};
   }
+}
+
+/// The access to a collection of objects of this class.
+template <class Item, auto... Path>
+consteval Access Items() {
+  ObjectField field = std::get<ObjectField>(Field<Path...>());
+  field.items = &DescriptionOf<Item>;
+  return field;
 }
 
 }  // namespace qorltst

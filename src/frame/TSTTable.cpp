@@ -1,9 +1,20 @@
 // The public face of the root object, one row a member, in interface order. See TST.h.
 #include <array>
 
+#include "elements/ARNKSegment.h"
+#include "elements/AirOpenSegment.h"
+#include "elements/AirSegment.h"
 #include "elements/FEElement.h"
+#include "elements/FMElement.h"
+#include "elements/FOElement.h"
+#include "elements/FPElement.h"
+#include "elements/FTElement.h"
+#include "elements/FVElement.h"
 #include "elements/ItineraryLastLine.h"
+#include "elements/NameElement.h"
+#include "elements/PublishedAndNetFares.h"
 #include "elements/TSTHeader.h"
+#include "elements/TaxElement.h"
 #include "farecalc/FareCalculation.h"
 #include "frame/TST.h"
 
@@ -40,8 +51,6 @@ void PutPublishedAndNetFares(Object& object, const Value& value) {
   TstOf(object).SetCollection(CollectionKind::PublishedAndNetFares, *collection);
 }
 
-const ClassDescription* CollectionType() { return &Collection::kDescription; }
-
 const ClassDescription* AnyType() { return nullptr; }
 
 }  // namespace
@@ -52,12 +61,12 @@ struct TST::Table {
     return TstOf(object).collections_[static_cast<std::size_t>(Kind)].Get();
   }
 
-  template <CollectionKind Kind>
-  static constexpr ObjectField kCollection{&In<Kind>, &CollectionType};
+  template <CollectionKind Kind, class Item>
+  static constexpr ObjectField kCollection{&In<Kind>, &DescriptionOf<Collection>, &DescriptionOf<Item>};
 
   static constexpr MemberTable kMembers{{
       {.name = u"PublishedAndNetFares",
-       .access = ObjectField{&In<CollectionKind::PublishedAndNetFares>, &AnyType},
+       .access = ObjectField{&In<CollectionKind::PublishedAndNetFares>, &AnyType, &DescriptionOf<PublishedAndNetFares>},
        .put = {ValueType::Automation, true, &PutPublishedAndNetFares},
        .help = u"The published and net fares; a caller may set another collection here."},
       {.name = u"FareBaseLineErrorText",
@@ -84,31 +93,41 @@ struct TST::Table {
       {.name = u"RetrieveSpecificTst",
        .access = Method{kSpecificParameters, ValueType::Long, &CallRetrieveSpecific},
        .help = u"Retrieves a TST by a display command and returns a result code."},
-      {.name = u"FMElements", .access = kCollection<CollectionKind::Commissions>, .help = u"The commission lines."},
+      {.name = u"FMElements",
+       .access = kCollection<CollectionKind::Commissions, FMElement>,
+       .help = u"The commission lines."},
       {.name = u"FOElements",
-       .access = kCollection<CollectionKind::OriginalIssues>,
+       .access = kCollection<CollectionKind::OriginalIssues, FOElement>,
        .help = u"The original issue lines."},
       {.name = u"FPElements",
-       .access = kCollection<CollectionKind::FormsOfPayment>,
+       .access = kCollection<CollectionKind::FormsOfPayment, FPElement>,
        .help = u"The form of payment lines."},
       {.name = u"FVElements",
-       .access = kCollection<CollectionKind::ValidatingCarriers>,
+       .access = kCollection<CollectionKind::ValidatingCarriers, FVElement>,
        .help = u"The validating carrier lines."},
-      {.name = u"NameElements", .access = kCollection<CollectionKind::Names>, .help = u"The passenger names."},
-      {.name = u"AirSegments", .access = kCollection<CollectionKind::AirSegments>, .help = u"The flown segments."},
-      {.name = u"AirOpenSegments", .access = kCollection<CollectionKind::OpenSegments>, .help = u"The open segments."},
+      {.name = u"NameElements",
+       .access = kCollection<CollectionKind::Names, NameElement>,
+       .help = u"The passenger names."},
+      {.name = u"AirSegments",
+       .access = kCollection<CollectionKind::AirSegments, AirSegment>,
+       .help = u"The flown segments."},
+      {.name = u"AirOpenSegments",
+       .access = kCollection<CollectionKind::OpenSegments, AirOpenSegment>,
+       .help = u"The open segments."},
       {.name = u"ARNKSegments",
-       .access = kCollection<CollectionKind::ArnkSegments>,
+       .access = kCollection<CollectionKind::ArnkSegments, ARNKSegment>,
        .help = u"The surface segments whose arrival is unknown."},
       {.name = u"FareCalculation", .access = Field<&TST::fareCalculation_>(), .help = u"The fare calculation."},
       {.name = u"TSTHeader", .access = Field<&TST::tstHeader_>(), .help = u"The header line."},
-      {.name = u"TaxElements", .access = kCollection<CollectionKind::Taxes>, .help = u"The taxes."},
+      {.name = u"TaxElements", .access = kCollection<CollectionKind::Taxes, TaxElement>, .help = u"The taxes."},
       {.name = u"FEElement", .access = Field<&TST::feElement_>(), .help = u"The endorsement line."},
       {.name = u"ItineraryLastLine",
        .access = Field<&TST::itineraryLastLine_>(),
        .help = u"The last line of the itinerary, which names the destination."},
       ClassDebugIdMember(),
-      {.name = u"FTElements", .access = kCollection<CollectionKind::TourCodes>, .help = u"The tour code lines."},
+      {.name = u"FTElements",
+       .access = kCollection<CollectionKind::TourCodes, FTElement>,
+       .help = u"The tour code lines."},
       {.name = u"FareBaseLineCorporateCode",
        .access = Field<&TST::fareBaseLineCorporateCode_>(),
        .help = u"The corporate code of the fare line."},
