@@ -1,4 +1,4 @@
-# The target `tidy`: clang-tidy over the portable sources, a file at a time. A file is looked at again only when it, a
+# The targets `tidy` and, for the component alone, `tidy_component`: clang-tidy over the portable sources, a file at a time. A file is looked at again only when it, a
 # header that it includes, or .clang-tidy has changed. Tests are left to the compilers' warnings: GoogleTest's macros
 # expand to what half of the checks reject.
 
@@ -9,6 +9,7 @@ if(NOT QORL_CLANG_TIDY)
 endif()
 
 set(stamps "")
+set(componentStamps "")
 foreach(target qorltst_core qorl_simulator qorl_idl qorl_demo qorl_bench)
   if(NOT TARGET ${target})
     continue()
@@ -23,6 +24,9 @@ foreach(target qorltst_core qorl_simulator qorl_idl qorl_demo qorl_bench)
       continue()
     endif()
     list(APPEND stamps "${stamp}")
+    if(name MATCHES "^src/")
+      list(APPEND componentStamps "${stamp}")
+    endif()
     add_custom_command(
       OUTPUT "${stamp}"
       # Findings go to the standard output; the other stream only counts what was found in system headers.
@@ -38,3 +42,4 @@ foreach(target qorltst_core qorl_simulator qorl_idl qorl_demo qorl_bench)
   endforeach()
 endforeach()
 add_custom_target(tidy DEPENDS ${stamps})
+add_custom_target(tidy_component DEPENDS ${componentStamps})

@@ -138,7 +138,8 @@ FareCalculation::FareCalculation(toolkit::Toolkit& toolkit)
       itineraryCompositeElements_(Make<Collection>()),
       departureRoutingPoint_(Make<DepartureRoutingPoint>(toolkit)),
       higherClassDifferentials_(Make<Collection>()) {
-  endLine_ = Make<EndLine>(toolkit);  // after the departure point, whose debug id comes first
+  // After the departure point, whose debug id comes first.
+  endLine_ = Make<EndLine>(toolkit);  // cppcheck-suppress useInitializationList
 }
 
 FareCalculation::~FareCalculation() = default;

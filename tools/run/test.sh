@@ -41,7 +41,26 @@ program_step() {
 test_native() {
   if checked "native-release build" compile native-release; then
     ctest_step native-release
+    test_valgrind
   fi
+}
+
+# What the sanitizers do not see, uninitialised memory above all, in the optimised program: retrievals from end to end,
+# failing calls and failing allocations.
+memcheck() {
+  valgrind --quiet --error-exitcode=9 --leak-check=full --errors-for-leak-kinds=definite,indirect,possible "$@" \
+    --gtest_brief=1
+}
+
+test_valgrind() {
+  if ! have_programs valgrind; then
+    say "valgrind is left out: it is not installed"
+    return 0
+  fi
+  checked "valgrind retrievals" memcheck build/native-release/qorl_tests \
+    --gtest_filter='*EndToEnd*:*Retrieval*:TstTest*:TstParser*:*AmountTest*:*CannotBeRead*:HostScreens.That*' || true
+  checked "valgrind allocations" memcheck build/native-release/qorl_memory_tests \
+    --gtest_filter='*warnings*:*fcexchange*:*Classes*:*Begin*' || true
 }
 
 # One process for all tests, so that what they leave behind adds up; the sanitizers look for leaks at its end.
@@ -80,9 +99,10 @@ test_windows_x86() {
 }
 
 command_test() {
-  provide "${kNativePackages[@]}" clang-format "${kSanitizerPackages[@]}" "${kWindowsPackages[@]}" "${kWinePackages[@]}"
+  provide "${kNativePackages[@]}" "${kLintPackages[@]}" valgrind "${kSanitizerPackages[@]}" "${kWindowsPackages[@]}" "${kWinePackages[@]}"
   require "The tests" "${kNativePrograms[@]}"
   lint_format
+  lint_component
   test_native
   test_sanitized
   test_fuzz
