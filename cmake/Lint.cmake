@@ -1,6 +1,6 @@
-# The targets `tidy` and, for the component alone, `tidy_component`: clang-tidy over the portable sources, a file at a time. A file is looked at again only when it, a
-# header that it includes, or .clang-tidy has changed. Tests are left to the compilers' warnings: GoogleTest's macros
-# expand to what half of the checks reject.
+# The targets `tidy` and, for the component alone, `tidy_component`: clang-tidy over the portable sources, a file at a
+# time. A file is looked at again only when it, a header that it includes, or .clang-tidy has changed. Tests are left to
+# the compilers' warnings: GoogleTest's macros expand to what half of the checks reject.
 
 find_program(QORL_CLANG_TIDY NAMES clang-tidy-14 clang-tidy)
 if(NOT QORL_CLANG_TIDY)
@@ -10,7 +10,7 @@ endif()
 
 set(stamps "")
 set(componentStamps "")
-foreach(target qorltst_core qorl_simulator qorl_idl qorl_demo qorl_bench)
+foreach(target qorltst_core qorl_simulator qorl_idl qorl_reference qorl_demo qorl_bench qorl_cost)
   if(NOT TARGET ${target})
     continue()
   endif()

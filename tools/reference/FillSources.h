@@ -18,6 +18,7 @@ struct Source {
   Origin origin = Origin::Text;
   /// Where the node counts only behind another one: the type of that, or `kUnknownType` where any one will do.
   std::optional<NodeTypeId> behind = std::nullopt;
+  // NOLINTNEXTLINE(modernize-use-nullptr): clang-tidy 14 takes the comparison with 0 for one with a pointer
   auto operator<=>(const Source&) const = default;
 };
 

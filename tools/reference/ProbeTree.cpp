@@ -113,14 +113,14 @@ Ref<toolkit::NodeEnumerator> ProbeNode::Children() {
     const bool isLast = depth_ + 1 == probe_.plan.path.size();
     for (const NodeTypeId type : probe_.plan.inFront) {
       if (isLast || type == kUnknownType) {
-        nodes.push_back(Make<ProbeNode>(probe_, type, depth_ + 1, true));
+        nodes.emplace_back(Make<ProbeNode>(probe_, type, depth_ + 1, true));
       }
     }
-    nodes.push_back(Make<ProbeNode>(probe_, probe_.plan.path[depth_], depth_ + 1, false));
+    nodes.emplace_back(Make<ProbeNode>(probe_, probe_.plan.path[depth_], depth_ + 1, false));
   } else if (IsEnd()) {
     probe_.notes.childrenWalked = true;
     for (const NodeTypeId type : probe_.plan.children) {
-      nodes.push_back(Make<ProbeNode>(probe_, type, depth_ + 1, false));
+      nodes.emplace_back(Make<ProbeNode>(probe_, type, depth_ + 1, false));
     }
   }
   return Make<ProbeEnumerator>(std::move(nodes));
