@@ -144,8 +144,8 @@ class EdgeFaults : public ::testing::TestWithParam<std::string> {
   /// Gives each call one of the answers in turn, or in the long form each of them.
   void AnswerEveryCallWith(const std::vector<OddAnswer>& answers, Manner manner) {
     const CleanEdgeRetrieval clean(GetParam(), manner);
-    // Each call has its turn in the tests of the portable side; here, in the short form, some 250 of a display.
-    const std::size_t step = testing::LongForm() ? 1 : std::max<std::size_t>(1, clean.calls.size() / 250);
+    // Each call has its turn in the tests of the portable side; here, in the short form, some 150 to 300 of a display.
+    const std::size_t step = testing::LongForm() ? 1 : std::max<std::size_t>(1, clean.calls.size() / 150);
     for (std::size_t n = 1; n <= clean.calls.size(); n += step) {
       const std::size_t count = testing::LongForm() ? answers.size() : 1;
       for (std::size_t i = 0; i < count; ++i) {
