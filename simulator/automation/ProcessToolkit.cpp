@@ -20,7 +20,7 @@ std::filesystem::path LogFile() {
 /// Never freed: objects may end after everything else.
 SimulatedToolkit& Simulated() {
   static SimulatedToolkit& simulated = []() -> SimulatedToolkit& {
-    auto* const made = new SimulatedToolkit;
+    const auto made = toolkit::Make<SimulatedToolkit>();
     made->AddRef();
     if (const std::filesystem::path file = LogFile(); !file.empty()) {
       made->SetLoggerSource([file] { return toolkit::Make<FileLogger>(file); });

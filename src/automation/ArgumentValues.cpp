@@ -19,9 +19,9 @@ Ref<Object> ObjectFrom(IDispatch* dispatch, ValueType type) {
   if (dispatch == nullptr) {
     return nullptr;
   }
-  Ref<Object> own = OwnObject(dispatch);
+  const Ref<Object> own = OwnObject(dispatch);
   if (type == ValueType::Automation) {
-    return CollectionFrom(*dispatch, std::move(own));
+    return CollectionFrom(*dispatch, own);
   }
   if (!own) {
     throw toolkit::RuntimeError(toolkit::kTypeMismatch);

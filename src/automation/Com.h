@@ -37,7 +37,7 @@ template <class Interface>
 class ComRef {
  public:
   ComRef() noexcept = default;
-  ComRef(std::nullptr_t) noexcept {}
+  ComRef(std::nullptr_t) noexcept {}  // NOLINT(google-explicit-constructor): nothing is a reference too
   explicit ComRef(Interface* object) noexcept : object_(object) {
     if (object_ != nullptr) {
       object_->AddRef();

@@ -147,17 +147,16 @@ HRESULT PutProperty(const Dual& self, std::size_t row, Word value) noexcept {
 }
 
 HRESULT CallMethod(const Dual& self, std::size_t row, std::span<const Word> words) noexcept {
-  const Member& member = RowOf(self, row);
-  const Method& method = std::get<Method>(member.access);
-  void* out = nullptr;
-  if (method.result != ValueType::Nothing) {
-    out = PointerIn(words.back());
-    if (out == nullptr) {
-      return E_POINTER;
+  return AtEdge(self.type->InterfaceId(), [&]() -> HRESULT {
+    const auto& method = std::get<Method>(RowOf(self, row).access);
+    void* out = nullptr;
+    if (method.result != ValueType::Nothing) {
+      out = PointerIn(words.back());
+      if (out == nullptr) {
+        return E_POINTER;
+      }
+      ClearStorage(method.result, out);
     }
-    ClearStorage(method.result, out);
-  }
-  return AtEdge(self.type->InterfaceId(), [&] {
     RunMethod(self, method, words, out);
     return S_OK;
   });

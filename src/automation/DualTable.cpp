@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <stdexcept>
 #include <variant>
 
@@ -101,8 +102,9 @@ const DualTable& TableFor(const ClassDescription& description) {
   if (std::ranges::all_of(description.members, &IsPlainProperty)) {
     return kRecordTable.entries;
   }
-  auto* const table = new OwnTable{kEntries, {}};
-  auto next = table->slots.begin();
+  // Never freed, as the class's binding is not.
+  OwnTable* const table = std::make_unique<OwnTable>(OwnTable{kEntries, {}}).release();
+  Slot* next = table->slots.data();
   for (std::size_t row = 0; row < description.members.size(); ++row) {
     const Member& member = description.members[row];
     *next++ = ReadingSlot(member, row);

@@ -138,7 +138,7 @@ void RaiseIfFailed(HRESULT code) {
 }
 
 void RaiseInvokeFailure(HRESULT code, EXCEPINFO& info) {
-  const ExceptionInfoGuard guard{info};
+  const ExceptionInfoGuard guard{info};  // NOLINT(clang-analyzer-deadcode.DeadStores): its end is what counts
   if (code != DISP_E_EXCEPTION) {
     throw RuntimeError(NumberOf(code));
   }

@@ -11,7 +11,7 @@ namespace qorltst::automation {
 
 /// A failure that is told by its HRESULT alone: a wrong argument, an unknown name.
 struct DispatchFailure {
-  HRESULT code;
+  HRESULT code = E_FAIL;
   /// The argument at fault, as its place in the caller's array; for type errors only.
   UINT argument = 0;
 };

@@ -25,7 +25,7 @@ ForeignObject::ForeignObject(IDispatch& object) { SetFace(std::make_unique<Forei
 
 const ClassDescription& ForeignObject::Description() const noexcept { return kForeignDescription; }
 
-Ref<Object> CollectionFrom(IDispatch& object, Ref<Object> own) {
+Ref<Object> CollectionFrom(IDispatch& object, const Ref<Object>& own) {
   LateBoundObject candidate{ComRef<IDispatch>(&object), LateBoundObject::Names()};
   if (!candidate.Knows(u"Count") || !candidate.Knows(u"Item")) {
     throw toolkit::RuntimeError(toolkit::kTypeMismatch);

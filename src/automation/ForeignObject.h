@@ -17,6 +17,6 @@ class ForeignObject final : public Object {
 
 /// The object that is to stand for a collection: `own`, where it is one of ours, else the foreign one behind an
 /// `Object`. Raises the runtime error 13 where it does not know the names that make a collection, "Count" and "Item".
-[[nodiscard]] Ref<Object> CollectionFrom(IDispatch& object, Ref<Object> own);
+[[nodiscard]] Ref<Object> CollectionFrom(IDispatch& object, const Ref<Object>& own);
 
 }  // namespace qorltst::automation

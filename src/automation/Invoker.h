@@ -16,6 +16,6 @@ struct DispatchCall {
 };
 
 /// Throws what `TranslateForInvoke` translates.
-[[nodiscard]] HRESULT InvokeMember(const Dual& self, DISPID member, const DispatchCall& call);
+[[nodiscard]] HRESULT InvokeMember(const Dual& self, DISPID id, const DispatchCall& call);
 
 }  // namespace qorltst::automation

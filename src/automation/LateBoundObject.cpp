@@ -83,7 +83,7 @@ void LateBoundObject::CallById(DISPID id, WORD flags, std::span<Variant> argumen
     // What answers names through IDispatchEx only may take calls through that only.
     FindExtended();
   }
-  std::array<VARIANTARG, kMaximumArguments> reversed;
+  std::array<VARIANTARG, kMaximumArguments> reversed{};
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     // Lent, not given: the callee does not free them.
     reversed[arguments.size() - 1 - i] = arguments[i].Get();

@@ -56,7 +56,7 @@ class LateBoundObject {
   ComRef<IDispatchEx> extended_;
   Names names_;
   Ref<DispatchNames> shared_;
-  std::array<DISPID, kMaximumMembers> ids_;
+  std::array<DISPID, kMaximumMembers> ids_{};
   bool askedTypeInfo_ = false;
   bool askedExtended_ = false;
   ComRef<ITypeInfo> typeInfo_;

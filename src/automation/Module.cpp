@@ -11,11 +11,11 @@ namespace {
 std::atomic<int> holds{0};
 
 /// Its address tells which module this code was linked into.
-const char anchor = 0;
+const char kAnchor = 0;
 
 HMODULE FindModule(DWORD flags) noexcept {
   HMODULE module = nullptr;
-  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | flags, reinterpret_cast<LPCWSTR>(&anchor), &module);
+  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | flags, reinterpret_cast<LPCWSTR>(&kAnchor), &module);
   return module;
 }
 

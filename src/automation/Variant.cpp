@@ -25,7 +25,7 @@ Variant::Variant(std::u16string_view text) : Variant() {
 
 VARIANT& Variant::ConvertTo(VARTYPE type) {
   if (value_.vt != type) {
-    RaiseIfFailed(VariantChangeType(&value_, &value_, 0, type));
+    RaiseIfFailed(ConvertCopy(value_, value_, 0, type));
   }
   return value_;
 }
@@ -37,6 +37,10 @@ VARIANT Variant::Detach() noexcept {
 }
 
 HRESULT ConvertCopy(VARIANT& to, const VARIANT& from, USHORT flags, VARTYPE type) noexcept {
+  // A reference to nothing has no value; whether the system's function looks is not relied on.
+  if ((from.vt & VT_BYREF) != 0 && from.byref == nullptr) {
+    return DISP_E_TYPEMISMATCH;
+  }
   // The system's function takes what it only reads as changeable.
   return VariantChangeType(&to, const_cast<VARIANT*>(&from), flags, type);
 }

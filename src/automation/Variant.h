@@ -10,7 +10,7 @@ namespace qorltst::automation {
 
 class Variant {
  public:
-  Variant() noexcept { VariantInit(&value_); }
+  Variant() noexcept = default;
   explicit Variant(std::int32_t number) noexcept : Variant() {
     value_.vt = VT_I4;
     value_.lVal = number;
@@ -35,7 +35,8 @@ class Variant {
   [[nodiscard]] VARIANT Detach() noexcept;
 
  private:
-  VARIANT value_;
+  /// Empty: that is the type 0.
+  VARIANT value_{};
 };
 
 /// The object that a variant holds, by reference or not.

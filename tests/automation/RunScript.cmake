@@ -1,7 +1,8 @@
 # Runs one script client (by its Windows path: cscript takes a leading slash for an option). A script that fails ends
 # silently and successfully under Wine, so its own last line counts.
 
-execute_process(COMMAND ${WINE} cscript //nologo "Z:${SCRIPT}" "Z:${SOURCES}" OUTPUT_FILE "${LOG}" ERROR_FILE "${LOG}"
+execute_process(COMMAND ${WINE} cscript //nologo "Z:${SCRIPT}" "Z:${SOURCES}" "Z:${MEMBERS}"
+                OUTPUT_FILE "${LOG}" ERROR_FILE "${LOG}"
                 RESULT_VARIABLE failed)
 file(READ "${LOG}" output)
 string(REPLACE "\r" "" output "${output}")

@@ -7,8 +7,16 @@ check_format() {
   [[ -z $files ]] || { printf 'clang-format would change\n%s\n' "$files" && return 1; }
 }
 
-# check_tidy <target>
-check_tidy() { configure native-release && cmake --build --preset native-release --target "$1" -- -k 0; }
+# check_tidy <target> <preset>
+check_tidy() { configure "$2" && cmake --build --preset "$2" --target "$1" -- -k 0; }
+
+# tidy_step <target>: the portable sources, and the automation side where the Windows compilers are.
+tidy_step() {
+  checked "lint $1" check_tidy "$1" native-release || true
+  if can_build_windows; then
+    checked "lint $1 automation" check_tidy "$1" windows-x64 || true
+  fi
+}
 
 # passedByValue: what is passed by value here is a view.
 check_cppcheck() {
@@ -26,7 +34,7 @@ lint_component() {
     say "cppcheck is left out: it is not installed"
   fi
   if have_programs clang-tidy; then
-    checked "lint tidy of the component" check_tidy tidy_component || true
+    tidy_step tidy_component
   else
     say "clang-tidy is left out: it is not installed"
   fi
@@ -41,10 +49,10 @@ lint_format() {
 }
 
 command_lint() {
-  provide "${kNativePackages[@]}" "${kLintPackages[@]}"
+  provide "${kNativePackages[@]}" "${kLintPackages[@]}" "${kWindowsPackages[@]}"
   require "Lint" "${kNativePrograms[@]}" "${kLintPrograms[@]}"
   lint_format
   checked "lint cppcheck" check_cppcheck || true
-  checked "lint tidy" check_tidy tidy || true
+  tidy_step tidy
   [[ $failed -eq 0 ]]
 }

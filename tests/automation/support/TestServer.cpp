@@ -9,6 +9,7 @@
 #include "automation/LateBoundToolkit.h"
 #include "automation/Module.h"
 #include "automation/Server.h"
+#include "support/MemberList.h"
 #include "support/TestRecord.h"
 
 namespace qorltst::automation {
@@ -73,6 +74,10 @@ const Server& ThisServer() noexcept {
 
 int main(int argumentCount, char** arguments) {
   testing::InitGoogleTest(&argumentCount, arguments);
+  // Scripts read the names from a file: "--members <file>" writes it.
+  if (argumentCount == 3 && std::string_view(arguments[1]) == "--members") {
+    return qorltst::automation::test::WriteMemberList(arguments[2]) ? 0 : 1;
+  }
   if (FAILED(CoInitialize(nullptr))) {
     return 1;
   }
