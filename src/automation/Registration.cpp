@@ -161,6 +161,7 @@ void RegisterAll(const Library& library, const std::u16string& modulePath, Regis
 }  // namespace
 
 HRESULT Register(const Library& library, const std::u16string& modulePath, Registry& registry) noexcept {
+  // cppcheck-suppress throwInNoexceptFunction  ; what is thrown ends at the edge
   return AtEdge([&] {
     if (IsAnyNameTaken(library, registry)) {
       throw toolkit::RuntimeError(kNameTaken, library.name, u"A name of this library belongs to another one.");

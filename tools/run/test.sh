@@ -30,11 +30,11 @@ ctest_step() {
   add_report "$report" "$status"
 }
 
-# program_step <preset> <program>: runs a test program at one go and adds its tests to the sums.
+# program_step <preset> <program> [wine]: runs a test program at one go and adds its tests to the sums.
 program_step() {
   local report=$kRoot/build/$1/$2.xml status=0
   rm -f "$report"
-  step "$1 $2" "$kRoot/build/$1/$2" --gtest_brief=1 "--gtest_output=xml:$report" || status=$?
+  step "$1 $2" "${@:3}" "$kRoot/build/$1/$2" --gtest_brief=1 "--gtest_output=xml:$report" || status=$?
   add_report "$report" "$status"
 }
 
