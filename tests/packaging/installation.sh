@@ -20,15 +20,37 @@ remove() {
   done
   # The entry among the installed programs goes after it.
   for ((i = 0; i < 100; i++)); do
-    quietly reg query "$kUninstallKey" || return 0
+    listed || return 0
     sleep 0.1
   done
   return 1
 }
 
-# value <key> [name]: a string in the registry.
-value() {
-  if [[ -n ${2:-} ]]; then quietly reg query "$1" /v "$2"; else quietly reg query "$1" /ve; fi
+# The entry among the installed programs stands with the 64-bit ones where there are such.
+listed() {
+  local view=
+  [[ ! -e $kDrive/windows/syswow64/regsvr32.exe ]] || view=/reg:64
+  quietly reg query "$kUninstallKey" "$@" ${view:+"$view"}
+}
+
+# listed_value <name>
+listed_value() {
+  listed /v "$1"
+  sed -nE 's/^.*REG_SZ +//p' "$kScratch/output" | tr -d '\r'
+}
+
+# The architectures whose programs can run here, which are those that the installer registers.
+architectures() {
+  [[ ! -d "$kDrive/Program Files (x86)" ]] || echo 64
+  [[ -d "$kDrive/Program Files (x86)" && ! -e $kDrive/windows/syswow64/regsvr32.exe ]] || echo 32
+}
+
+# server <64 or 32>: the library that serves the class TST.
+server() {
+  local classId view=
+  classId=$(grep -B 1 '<progid>QorlTST.TST<' "$PACKAGE/x64/QorlTST.x64.manifest" | sed -nE 's/.* clsid="([^"]*)".*/\1/p')
+  [[ ! -d "$kDrive/Program Files (x86)" ]] || view=/reg:$1
+  quietly reg query "HKCR\\CLSID\\$classId\\InprocServer32" /ve ${view:+"$view"} || return 0
   sed -nE 's/^.*REG_SZ +//p' "$kScratch/output" | tr -d '\r'
 }
 
@@ -36,12 +58,26 @@ lays_out_the_package() {
   install || fail "the installer ended with $?"
   diff -r "$PACKAGE" "$kFolder" >"$kScratch/difference" || true
   [[ $(<"$kScratch/difference") == "Only in $kFolder: uninstall.exe" ]] || fail "$(<"$kScratch/difference")"
-  [[ $(value "$kUninstallKey" DisplayVersion) == "${PACKAGE##*-}" ]] || fail "listed with another version"
-  [[ $(value "$kUninstallKey" QuietUninstallString) == '"C:\Program Files\QorlTST\uninstall.exe" /S' ]] ||
+  [[ $(listed_value DisplayVersion) == "${PACKAGE##*-}" ]] || fail "listed with another version"
+  [[ $(listed_value QuietUninstallString) == '"C:\Program Files\QorlTST\uninstall.exe" /S' ]] ||
     fail "listed with another uninstaller"
-  [[ $(value "$kUninstallKey" Comments) == *"Registered for ${ARCHITECTURE/x/}"* ||
-    $(value "$kUninstallKey" Comments) == *"Registered for 32"* ]] || fail "says nothing of its registration"
   remove
+}
+
+registers_what_can_run() {
+  local architecture comments
+  install || fail "the installer ended with $?"
+  comments=$(listed_value Comments)
+  for architecture in 64 32; do
+    server "$architecture" >"$kScratch/server.$architecture"
+  done
+  remove
+  for architecture in $(architectures); do
+    [[ $(<"$kScratch/server.$architecture") == 'C:\Program Files\QorlTST\x'"${architecture/32/86}"'\QorlTST.dll' ]] ||
+      fail "for $architecture bits served by '$(<"$kScratch/server.$architecture")'"
+    [[ $comments == *"Registered for $architecture-bit programs."* ]] || fail "listed as '$comments'"
+    echo "registered for $architecture bits"
+  done
 }
 
 installed_component_retrieves() {
