@@ -97,6 +97,7 @@ std::int32_t AskElsewhere(IStream* crossing, const GUID& interfaceId) {
 
 TEST(RegistrationFree, AnObjectIsUsedFromAnotherApartment) {
   const ComRef<IDispatch> tst = Create(u"QorlTST.TST");
+  ASSERT_TRUE(tst);
   const GUID interfaceId = SystemGuid(ComponentLibrary().IdentityOf(u"TST")->interfaceId);
   IStream* crossing = nullptr;
   ASSERT_EQ(CoMarshalInterThreadInterfaceInStream(interfaceId, tst.Get(), &crossing), S_OK);
@@ -120,13 +121,14 @@ TEST(RegistrationFree, AnObjectIsUsedFromAnotherApartment) {
 }
 
 TEST(RegistrationFree, ATicketIsRetrieved) {
-  const Client session(Create(u"QorlHostToolkit.RecordedSession"));
-  ASSERT_EQ(session.Call(u"Load", {String(display)}).code, S_OK);
-  const Client tst(Create(u"QorlTST.TST"));
-  const Answer answer = tst.Call(u"RetrieveCurrentTst", {Dispatch(session.Get())});
+  const ComRef<IDispatch> session = Create(u"QorlHostToolkit.RecordedSession");
+  const ComRef<IDispatch> tst = Create(u"QorlTST.TST");
+  ASSERT_TRUE(session && tst);
+  ASSERT_EQ(Client(session).Call(u"Load", {String(display)}).code, S_OK);
+  const Answer answer = Client(tst).Call(u"RetrieveCurrentTst", {Dispatch(session.Get())});
   ASSERT_EQ(answer.code, S_OK);
   EXPECT_EQ(answer.Long(), 0);
-  EXPECT_FALSE(tst.Call(u"TotalCurrencyCode").Text().empty());
+  EXPECT_FALSE(Client(tst).Call(u"TotalCurrencyCode").Text().empty());
 }
 
 }  // namespace
