@@ -119,7 +119,8 @@ void WriteAssemblyManifest(std::ostream& out, const Library& library, const Arch
 
 void WriteClientManifest(std::ostream& out, const Library& library, const Architecture& architecture,
                          std::string_view version) {
-  out << kBegin << "  <dependency>\n    <dependentAssembly>\n";
+  out << kBegin << "  <assemblyIdentity" << Attribute("type", "win32") << Attribute("name", "Client")
+      << Attribute("version", "1.0.0.0") << "/>\n  <dependency>\n    <dependentAssembly>\n";
   WriteIdentity(out, library, architecture, version, "      ");
   out << "    </dependentAssembly>\n  </dependency>\n" << kEnd;
 }
