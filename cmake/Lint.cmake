@@ -9,7 +9,7 @@ if(NOT QORL_CLANG_TIDY)
   return()
 endif()
 
-set(tidyTargets qorltst_core qorl_simulator qorl_idl qorl_reference qorl_demo qorl_bench qorl_cost)
+set(tidyTargets qorltst_core qorl_simulator qorl_idl qorl_reference qorl_manifest qorl_demo qorl_bench qorl_cost)
 set(tidyArguments "")
 if(WIN32)
   set(tidyTargets qorltst_automation QorlTST QorlHostToolkit)

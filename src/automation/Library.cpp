@@ -2,6 +2,7 @@
 #include "automation/Library.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace qorltst::automation {
 
@@ -17,6 +18,18 @@ const ClassDescription* Library::FindClass(const Guid& classId) const noexcept {
     return identity != nullptr && identity->classId == classId;
   });
   return found != known.end() ? *found : nullptr;
+}
+
+std::vector<const ClassDescription*> Library::CreatableClasses() const {
+  std::vector<const ClassDescription*> creatable;
+  std::ranges::copy_if(classes(), std::back_inserter(creatable),
+                       [](const ClassDescription* description) { return description->create != nullptr; });
+  return creatable;
+}
+
+ProgramIds Library::ProgramIdsOf(const ClassDescription& description) const {
+  const std::u16string plain = std::u16string(name).append(u".").append(description.name);
+  return {plain, plain + u".1"};
 }
 
 }  // namespace qorltst::automation

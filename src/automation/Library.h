@@ -3,7 +3,9 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "automation/Guid.h"
 #include "frame/ClassDescription.h"
@@ -17,7 +19,16 @@ struct ClassIdentity {
   Guid interfaceId;
 };
 
-/// One library, as its interface description, its registration and its class factories see it.
+/// Every class lives in the apartment of the thread that made it.
+inline constexpr std::u16string_view kThreadingModel = u"Apartment";
+
+/// The names under which callers create a class: this one, and the same with the version at its end.
+struct ProgramIds {
+  std::u16string plain;
+  std::u16string versioned;
+};
+
+/// One library, as its interface description, its registration, its manifest and its class factories see it.
 struct Library {
   std::u16string_view name;
   std::u16string_view help;
@@ -35,6 +46,11 @@ struct Library {
 
   /// The class that has this class identifier, or nothing.
   [[nodiscard]] const ClassDescription* FindClass(const Guid& classId) const noexcept;
+
+  /// The classes that callers can create, in the library's order.
+  [[nodiscard]] std::vector<const ClassDescription*> CreatableClasses() const;
+
+  [[nodiscard]] ProgramIds ProgramIdsOf(const ClassDescription& description) const;
 };
 
 }  // namespace qorltst::automation

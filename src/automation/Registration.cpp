@@ -22,27 +22,15 @@ std::u16string Braced(const Guid& guid) { return u"{" + Wide(ToString(guid)) + u
 
 /// The names under which one class stands in the registry.
 struct ClassKeys {
-  std::u16string programId;
-  std::u16string versionedId;
+  ProgramIds programIds;
   std::u16string classId;
   std::u16string classKey;
 
   ClassKeys(const Library& library, const ClassDescription& description)
-      : programId(std::u16string(library.name).append(u".").append(description.name)),
-        versionedId(programId + u".1"),
+      : programIds(library.ProgramIdsOf(description)),
         classId(Braced(library.IdentityOf(description.name)->classId)),
         classKey(u"CLSID\\" + classId) {}
 };
-
-std::vector<const ClassDescription*> CreatableClasses(const Library& library) {
-  std::vector<const ClassDescription*> creatable;
-  for (const ClassDescription* const description : library.classes()) {
-    if (description->create != nullptr) {
-      creatable.push_back(description);
-    }
-  }
-  return creatable;
-}
 
 void AddClassEntries(std::vector<Entry>& entries, const Library& library, const ClassDescription& description,
                      const std::u16string& modulePath) {
@@ -51,16 +39,16 @@ void AddClassEntries(std::vector<Entry>& entries, const Library& library, const 
   const std::u16string version =
       Wide(std::to_string(library.majorVersion) + "." + std::to_string(library.minorVersion));
   const std::vector<Entry> own{
-      {keys.programId, u"", help},
-      {keys.programId + u"\\CLSID", u"", keys.classId},
-      {keys.programId + u"\\CurVer", u"", keys.versionedId},
-      {keys.versionedId, u"", help},
-      {keys.versionedId + u"\\CLSID", u"", keys.classId},
+      {keys.programIds.plain, u"", help},
+      {keys.programIds.plain + u"\\CLSID", u"", keys.classId},
+      {keys.programIds.plain + u"\\CurVer", u"", keys.programIds.versioned},
+      {keys.programIds.versioned, u"", help},
+      {keys.programIds.versioned + u"\\CLSID", u"", keys.classId},
       {keys.classKey, u"", help},
       {keys.classKey + u"\\InprocServer32", u"", modulePath},
-      {keys.classKey + u"\\InprocServer32", u"ThreadingModel", u"Apartment"},
-      {keys.classKey + u"\\ProgID", u"", keys.versionedId},
-      {keys.classKey + u"\\VersionIndependentProgID", u"", keys.programId},
+      {keys.classKey + u"\\InprocServer32", u"ThreadingModel", std::u16string(kThreadingModel)},
+      {keys.classKey + u"\\ProgID", u"", keys.programIds.versioned},
+      {keys.classKey + u"\\VersionIndependentProgID", u"", keys.programIds.plain},
       {keys.classKey + u"\\Version", u"", version},
       {keys.classKey + u"\\Programmable", u"", u""},
   };
@@ -77,9 +65,10 @@ bool IsTaken(const std::u16string& name, const std::u16string& classId, Registry
 }
 
 bool IsAnyNameTaken(const Library& library, Registry& registry) {
-  for (const ClassDescription* const description : CreatableClasses(library)) {
+  for (const ClassDescription* const description : library.CreatableClasses()) {
     const ClassKeys keys(library, *description);
-    if (IsTaken(keys.programId, keys.classId, registry) || IsTaken(keys.versionedId, keys.classId, registry)) {
+    if (IsTaken(keys.programIds.plain, keys.classId, registry) ||
+        IsTaken(keys.programIds.versioned, keys.classId, registry)) {
       return true;
     }
   }
@@ -145,7 +134,7 @@ void WriteTypeLibrary(const Library& library, const std::u16string& modulePath, 
 
 void RegisterAll(const Library& library, const std::u16string& modulePath, Registry& registry) {
   std::vector<Entry> entries;
-  for (const ClassDescription* const description : CreatableClasses(library)) {
+  for (const ClassDescription* const description : library.CreatableClasses()) {
     AddClassEntries(entries, library, *description, modulePath);
   }
   Undo undo;
@@ -175,10 +164,10 @@ HRESULT Unregister(const Library& library, Registry& registry) noexcept {
   return AtEdge([&] {
     HRESULT first = S_OK;
     const auto note = [&first](HRESULT code) { first = FAILED(first) ? first : code; };
-    for (const ClassDescription* const description : CreatableClasses(library)) {
+    for (const ClassDescription* const description : library.CreatableClasses()) {
       const ClassKeys keys(library, *description);
       // A name that another library took over since is no longer ours to remove.
-      for (const std::u16string& name : {keys.programId, keys.versionedId}) {
+      for (const std::u16string& name : {keys.programIds.plain, keys.programIds.versioned}) {
         note(IsTaken(name, keys.classId, registry) ? S_OK : registry.RemoveKey(name));
       }
       note(registry.RemoveKey(keys.classKey));

@@ -1,4 +1,4 @@
-#: ./run test    format, tests, sanitizers, Windows tests under Wine; ends with "N passed, N failed, N skipped"
+#: ./run test    format, tests, sanitizers, Windows tests under Wine, the package; ends with "N passed, N failed, N skipped"
 
 # The number in an attribute of ctest's report.
 reported() { grep -oE "\b$2=\"[0-9]+\"" "$1" | head -n 1 | tr -dc 0-9; }
@@ -21,12 +21,12 @@ add_report() {
   say "  $((total - bad - left)) passed, $bad failed, $left skipped"
 }
 
-# ctest_step <preset>: runs its tests, each in a process of its own. Which tests there are, CMake decides: those that
-# need Wine are there where Wine is.
+# ctest_step <preset> [what] [options]: runs its tests, each in a process of its own. Which tests there are, CMake decides:
+# those that need Wine are there where Wine is.
 ctest_step() {
   local preset=$1 report=$kRoot/build/$1/tests.xml status=0
   rm -f "$report"
-  step "$preset tests" ctest --preset "$preset" --output-junit "$report" || status=$?
+  step "$preset ${2:-tests}" ctest --preset "$preset" --output-junit "$report" "${@:3}" || status=$?
   add_report "$report" "$status"
 }
 
@@ -85,7 +85,7 @@ test_windows_x64() {
   else
     say "windows-x64: tests that run under Wine are left out; they need ${kWinePrograms[*]}; the files are checked"
   fi
-  ctest_step windows-x64
+  ctest_step windows-x64 tests -LE package
 }
 
 test_windows_x86() {
@@ -95,11 +95,23 @@ test_windows_x86() {
     targets=(QorlTST QorlHostToolkit)
   fi
   checked "windows-x86 build" compile windows-x86 --target "${targets[@]}" || return 0
-  ctest_step windows-x86
+  ctest_step windows-x86 tests -LE package
+}
+
+# The package is made of both builds; its tests stop what they start.
+test_package() {
+  if ! can_package; then
+    say "The package is left out: it needs ${kPackagePrograms[*]}"
+    return 0
+  fi
+  checked "package" make_package || return 0
+  ctest_step windows-x64 "package tests" -L package
+  ctest_step windows-x86 "package tests" -L package
 }
 
 command_test() {
-  provide "${kNativePackages[@]}" "${kLintPackages[@]}" valgrind "${kSanitizerPackages[@]}" "${kWindowsPackages[@]}" "${kWinePackages[@]}"
+  provide "${kNativePackages[@]}" "${kLintPackages[@]}" valgrind "${kSanitizerPackages[@]}" "${kWindowsPackages[@]}" \
+    "${kWinePackages[@]}" "${kPackagePackages[@]}"
   require "The tests" "${kNativePrograms[@]}"
   lint_format
   lint_component
@@ -109,6 +121,7 @@ command_test() {
   if can_build_windows; then
     test_windows_x64
     test_windows_x86
+    test_package
   else
     say "The Windows tests are left out: they need ${kWindowsPrograms[*]}"
   fi
