@@ -32,9 +32,9 @@ ctest_step() {
 
 # program_step <preset> <program>: runs a test program at one go and adds its tests to the sums.
 program_step() {
-  local preset=$1 report=$kRoot/build/$1/tests.xml status=0
+  local preset=$1 report=$kRoot/build/$1/$2.xml status=0
   rm -f "$report"
-  step "$preset tests" "$kRoot/build/$preset/$2" --gtest_brief=1 "--gtest_output=xml:$report" || status=$?
+  step "$preset $2" "$kRoot/build/$preset/$2" --gtest_brief=1 "--gtest_output=xml:$report" || status=$?
   add_report "$report" "$status"
 }
 
@@ -54,6 +54,10 @@ test_sanitized() {
     export LLVM_PROFILE_FILE=$kRoot/build/native-sanitize/profiles/%m-%p.profraw UBSAN_OPTIONS=print_stacktrace=1
     rm -rf "$kRoot/build/native-sanitize/profiles"
     program_step native-sanitize qorl_tests
+    # Left out where its libraries are not installed.
+    if [[ -x build/native-sanitize/qorl_tool_tests ]]; then
+      program_step native-sanitize qorl_tool_tests
+    fi
   fi
 }
 
