@@ -57,6 +57,8 @@ struct ContentJson {
 
 Json ToJson(Object& object, Filter filter, std::span<const Member* const> rows) {
   Json json = Json::object();
+  // Members are copied when their list grows.
+  json.get_ref<Json::object_t&>().reserve((rows.empty() ? object.Description().members.size() : rows.size()) + 1);
   Add(json, kClassName, NameText(object.Description().name));
   // A number that was asked for by its name is shown.
   ForEachProperty(object, {filter.empty, filter.numbers || !rows.empty()}, [&](const Property& property) {

@@ -113,6 +113,10 @@ std::string PrintableText(std::string_view text) {
   return printable + PrintableText(simulator::ToUtf16(text));
 }
 
-std::string NameText(std::u16string_view name) { return simulator::ToUtf8(name); }
+std::string NameText(std::u16string_view name) {
+  std::string text(name.size(), ' ');
+  std::ranges::transform(name, text.begin(), [](char16_t unit) { return static_cast<char>(unit); });
+  return text;
+}
 
 }  // namespace qorltst::model

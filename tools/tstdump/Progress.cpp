@@ -13,7 +13,7 @@ constexpr std::chrono::milliseconds kPause{250};
 constexpr std::size_t kMostOfName = 40;
 constexpr std::string_view kEraseLine = "\r\033[K";
 
-std::string Tail(std::string text) {
+std::string Tail(const std::string& text) {
   return text.size() <= kMostOfName ? text : "..." + text.substr(text.size() - kMostOfName);
 }
 
