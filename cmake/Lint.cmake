@@ -9,7 +9,7 @@ if(NOT QORL_CLANG_TIDY)
 endif()
 
 set(stamps "")
-foreach(target qorltst_core qorl_simulator qorl_model qorl_model_json qorl_tstdump_parts tstdump qorl_idl qorl_demo qorl_bench)
+foreach(target qorltst_core qorl_simulator qorl_model qorl_model_json qorl_report qorl_tstdump_parts tstdump qorl_idl qorl_demo qorl_bench)
   if(NOT TARGET ${target})
     continue()
   endif()

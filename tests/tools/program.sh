@@ -136,6 +136,42 @@ case_documentation() {
   [[ $count -ge 5 ]] || fail "only $count examples were found in the page"
 }
 
+# Pages of all samples are HTML that a validator has nothing to say about.
+case_pages() {
+  expect 1 --html --output "$work/pages" "$kSamples"
+  [[ $(find "$work/pages" -name '*.html' | wc -l) -ge 20 ]] || fail "too few pages"
+  command -v tidy >/dev/null || { echo "skipped: there is no tidy(1)" && exit 77; }
+  local page
+  for page in "$work"/pages/*.html; do
+    tidy -quiet -errors "$page" >"$work/findings" 2>&1 || true
+    [[ ! -s $work/findings ]] || fail "$(basename "$page"): $(head -n 3 "$work/findings")"
+  done
+}
+
+# in_browser <page> <width> <extra options...>: prints what page-check.js finds in it.
+in_browser() {
+  local page=$1 width=$2
+  shift 2
+  # The copy may run the check; the page itself lets nothing run.
+  { grep -v 'Content-Security-Policy' "$page" && echo '<script>' && cat "$kSources/tests/tools/page-check.js" && echo '</script>'; } \
+    >"$work/copy.html"
+  chromium --headless --no-sandbox --disable-gpu --no-first-run --disable-background-networking --disable-component-update \
+    --disable-sync --user-data-dir="$(mktemp -d -p "$work")" --window-size="$width,900" "$@" --dump-dom \
+    "file://$work/copy.html" 2>/dev/null | grep -oE '<title>findings: [^<]*' | sed 's/<title>//'
+}
+
+case_browser() {
+  command -v chromium >/dev/null || { echo "skipped: there is no chromium" && exit 77; }
+  expect 1 --html --output "$work/pages" "$kSamples"
+  local name found
+  for name in rich-3 warnings-15 fc-side-trip-3 not-a-tst-2; do
+    found=$(in_browser "$work"/pages/*-"$name".html 1200)
+    [[ $found == 'findings: none | light | 1200' ]] || fail "$name: $found"
+    found=$(in_browser "$work"/pages/*-"$name".html 500 --blink-settings=preferredColorScheme=0)
+    [[ $found == 'findings: none | dark | 500' ]] || fail "$name, narrow and dark: $found"
+  done
+}
+
 say() { printf '%s\n' "$*"; }
 
 "case_$3"

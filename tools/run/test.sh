@@ -82,7 +82,7 @@ test_windows_x86() {
 }
 
 command_test() {
-  provide "${kNativePackages[@]}" clang-format "${kSanitizerPackages[@]}" "${kWindowsPackages[@]}" "${kWinePackages[@]}"
+  provide "${kNativePackages[@]}" "${kPagePackages[@]}" clang-format "${kSanitizerPackages[@]}" "${kWindowsPackages[@]}" "${kWinePackages[@]}"
   require "The tests" "${kNativePrograms[@]}"
   lint_format
   test_native

@@ -23,6 +23,7 @@ struct Written {
   Options options;
   bool json = false;
   bool jsonLines = false;
+  bool html = false;
   bool all = false;
   bool filled = false;
   bool noProgress = false;
@@ -39,6 +40,8 @@ struct FlagRow {
 constexpr std::array kFlags{
     FlagRow{"--json", [](Written& w) -> bool& { return w.json; }, "print one indented JSON array"},
     FlagRow{"--jsonl", [](Written& w) -> bool& { return w.jsonLines; }, "print JSON, a line for each display"},
+    FlagRow{"--html", [](Written& w) -> bool& { return w.html; },
+            "print a page of HTML, or with --output one a display"},
     FlagRow{"--schema", [](Written& w) -> bool& { return w.options.schema; },
             "print the JSON Schema of a display and end"},
     FlagRow{"--trace", [](Written& w) -> bool& { return w.options.trace; }, "print the component's log as well"},
@@ -56,7 +59,8 @@ void AddOptions(CLI::App& app, Written& written) {
   for (const FlagRow& row : kFlags) {
     app.add_flag(row.names, row.target(written), row.help);
   }
-  app.get_option("--json")->excludes("--jsonl");
+  app.get_option("--json")->excludes("--jsonl")->excludes("--html");
+  app.get_option("--jsonl")->excludes("--html");
   app.get_option("--all")->excludes("--filled");
   const auto list = [&app](const char* name, std::vector<std::string>& target, const char* help) {
     app.add_option(name, target, help)->type_name("NAME")->allow_extra_args(false);
@@ -65,6 +69,9 @@ void AddOptions(CLI::App& app, Written& written) {
   list("--property", written.properties, "print only this property (may be repeated)");
   app.add_option("--command", written.options.command, "take only displays that answer this command")
       ->type_name("TEXT");
+  app.add_option("--output", written.options.folder, "write pages of HTML to this folder, a file for each display")
+      ->type_name("FOLDER")
+      ->needs("--html");
   app.add_option("--files-from", written.options.filesFrom, "read the names of files from this one, - for the input")
       ->type_name("FILE");
   app.add_option("files", written.options.files, "files, folders, - for the input, which is also read without any")
@@ -75,6 +82,9 @@ Options PutTogether(Written written) {
   Options& options = written.options;
   if (written.json || written.jsonLines) {
     options.format = written.json ? Format::Json : Format::JsonLines;
+  }
+  if (written.html) {
+    options.format = Format::Html;
   }
   options.filter.empty = options.format == Format::Text && !options.schema ? written.all : !written.filled;
   options.progress = !written.noProgress;
@@ -89,6 +99,9 @@ Options PutTogether(Written written) {
     options.selection = model::Selection(written.classes, written.properties);
   } catch (const model::UnknownName& error) {
     throw UsageError(error.what());
+  }
+  if (written.html && !options.selection.IsEverything()) {
+    throw UsageError("a page shows the whole ticket");
   }
   if (options.files.empty() && options.filesFrom.empty()) {
     options.files.emplace_back("-");

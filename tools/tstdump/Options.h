@@ -10,12 +10,14 @@
 
 namespace qorltst::tstdump {
 
-enum class Format : std::uint8_t { Text, Json, JsonLines };
+enum class Format : std::uint8_t { Text, Json, JsonLines, Html };
 
 struct Options {
   Format format = Format::Text;
   model::Filter filter;
   model::Selection selection;
+  /// Where pages go, a file each; a single one to the output where this is empty.
+  std::string folder;
   /// Print the schema and nothing else.
   bool schema = false;
   /// Show the whole log and not its errors alone.

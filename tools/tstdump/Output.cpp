@@ -3,6 +3,7 @@
 
 #include "tools/model/TextTree.h"
 #include "tools/model/ValueText.h"
+#include "tools/tstdump/PageOutput.h"
 #include "tools/tstdump/Record.h"
 
 namespace qorltst::tstdump {
@@ -101,6 +102,8 @@ std::unique_ptr<Output> MakeOutput(const Options& options, std::ostream& out) {
       return Make<JsonOutput>(options, out);
     case Format::JsonLines:
       return Make<JsonLinesOutput>(options, out);
+    case Format::Html:
+      return Make<PageOutput>(options, out);
     case Format::Text:
       break;
   }
