@@ -21,16 +21,16 @@ constexpr std::array kKindNames{
     KindName{toolkit::kLogTrace, "TRACE"},
 };
 
-std::string NameOfKind(std::int32_t kind) {
+}  // namespace
+
+std::string LogKindName(std::int32_t kind) {
   const auto* const found = std::ranges::find(kKindNames, kind, &KindName::kind);
   return found != kKindNames.end() ? std::string(found->name) : std::to_string(kind);
 }
 
-}  // namespace
-
 std::string FormatLogEntry(const LogEntry& entry) {
   const std::string application = entry.application.empty() ? "-" : ToUtf8(entry.application);
-  return EscapeControls(application + ' ' + NameOfKind(entry.kind) + ' ' + std::to_string(entry.number) + ' ' +
+  return EscapeControls(application + ' ' + LogKindName(entry.kind) + ' ' + std::to_string(entry.number) + ' ' +
                         ToUtf8(entry.source) + ": " + ToUtf8(entry.message));
 }
 

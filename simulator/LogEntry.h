@@ -16,6 +16,9 @@ struct LogEntry {
   friend bool operator==(const LogEntry&, const LogEntry&) = default;
 };
 
+/// "ERROR", "WARNING" or "TRACE"; the number of another kind.
+[[nodiscard]] std::string LogKindName(std::int32_t kind);
+
 /// "QorlTST TRACE 1 QorlTST.TstParser.ParseTst: message" in UTF-8, always one line: control characters are shown
 /// as "\x0a". A kind without a name is shown as its number, an empty application as "-".
 [[nodiscard]] std::string FormatLogEntry(const LogEntry& entry);

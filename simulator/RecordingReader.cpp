@@ -2,8 +2,12 @@
 #include "simulator/RecordingReader.h"
 
 #include <algorithm>
+#include <array>
 #include <fstream>
 #include <iterator>
+#include <limits>
+#include <utility>
+#include <vector>
 
 #include "simulator/RecordingLine.h"
 #include "simulator/Screen.h"
@@ -21,25 +25,94 @@ std::u16string_view Trimmed(std::u16string_view text) {
   return text.substr(first, text.find_last_not_of(u' ') + 1 - first);
 }
 
-class RecordingReader {
- public:
-  explicit RecordingReader(std::string name) : name_(std::move(name)) {}
+/// The bytes of a line that is longer than any line of a session file could be.
+constexpr std::size_t kLineLimit = 4096;
 
-  Recording Read(std::istream& stream) {
-    std::string line;
+}  // namespace
+
+class RecordingReader::Reading {
+ public:
+  Reading(std::istream& stream, std::string name, std::u16string_view impliedCommand)
+      : stream_(stream), name_(std::move(name)), impliedCommand_(impliedCommand) {}
+
+  std::optional<Exchange> Next() {
     try {
-      while (std::getline(stream, line)) {
-        ++lineNumber_;
-        ReadLine(Decode(line));
-      }
-      EndExchange();
+      return ReadExchange();
     } catch (const std::invalid_argument& error) {
+      // What is left of the damaged answer is not read: it ends where the next command stands.
+      exchange_.reset();
+      lines_.clear();
+      screenIsDue_ = false;
+      skipping_ = true;
       throw RecordingError(name_ + ":" + std::to_string(lineNumber_) + ": " + error.what());
     }
-    return std::move(recording_);
   }
 
  private:
+  std::optional<Exchange> ReadExchange() {
+    if (command_) {
+      BeginExchange(*std::exchange(command_, std::nullopt));
+    }
+    while (NextLine()) {
+      if (line_.starts_with(u'#')) {
+        continue;
+      }
+      if (line_.starts_with(u'>')) {
+        command_ = Trimmed(std::u16string_view(line_).substr(1));
+        if (exchange_) {
+          return EndExchange();
+        }
+        BeginExchange(*std::exchange(command_, std::nullopt));
+      } else {
+        ReadAnswerLine(line_);
+      }
+    }
+    return exchange_ ? std::optional(EndExchange()) : std::nullopt;
+  }
+
+  /// Takes the next line of the file that counts; false at the end.
+  bool NextLine() {
+    while (NextBytes()) {
+      const bool isCommand = !bytes_.empty() && bytes_.front() == '>';
+      if (skipping_ && !isCommand) {
+        continue;
+      }
+      skipping_ = false;
+      line_ = Decode(bytes_);
+      return true;
+    }
+    return false;
+  }
+
+  /// Takes the bytes of the next line. A line that is longer than any line could be is no longer in memory for it.
+  bool NextBytes() {
+    stream_.getline(buffer_.data(), static_cast<std::streamsize>(buffer_.size()));
+    const auto length = static_cast<std::size_t>(stream_.gcount());
+    if (stream_.bad() && !std::exchange(isBroken_, true)) {
+      throw std::invalid_argument("the file cannot be read any further");
+    }
+    if (stream_.bad() || (stream_.eof() && length == 0)) {
+      return false;
+    }
+    ++lineNumber_;
+    bytes_ = std::string_view(buffer_.data(), length);
+    if (!stream_.fail() && !stream_.eof()) {
+      bytes_.remove_suffix(1);
+    } else if (!stream_.eof()) {
+      SkipLine();
+    }
+    return true;
+  }
+
+  void SkipLine() {
+    stream_.clear();
+    stream_.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+    if (!bytes_.starts_with('#')) {
+      throw std::invalid_argument("the line is too long");
+    }
+    bytes_ = "#";
+  }
+
   [[nodiscard]] std::u16string Decode(std::string_view line) const {
     if (lineNumber_ == 1 && line.starts_with(kByteOrderMark)) {
       line.remove_prefix(kByteOrderMark.size());
@@ -53,30 +126,31 @@ class RecordingReader {
     return ToUtf16(line);
   }
 
-  void ReadLine(std::u16string_view line) {
-    if (line.starts_with(u'#')) {
-      return;
+  void ReadAnswerLine(std::u16string_view line) {
+    if (!exchange_) {
+      if (Trimmed(line).empty()) {
+        return;
+      }
+      if (impliedCommand_.empty() && !line.starts_with(u'@')) {
+        throw std::invalid_argument("a screen must follow its command (> TQT)");
+      }
+      if (!impliedCommand_.empty()) {
+        BeginExchange(impliedCommand_);
+      }
     }
-    if (line.starts_with(u'>')) {
-      BeginExchange(Trimmed(line.substr(1)));
-    } else if (line.starts_with(u'@')) {
+    if (line.starts_with(u'@')) {
       ReadDirective(Trimmed(line));
-    } else if (!recording_.empty()) {
+    } else {
       ReadScreenLine(line);
-    } else if (!Trimmed(line).empty()) {
-      throw std::invalid_argument("a screen must follow its command (> TQT)");
     }
   }
 
   void BeginExchange(std::u16string_view command) {
-    EndExchange();
     if (command.empty()) {
       throw std::invalid_argument("the command is missing");
     }
-    if (std::ranges::find(recording_, command, &Exchange::command) != recording_.end()) {
-      throw std::invalid_argument("the command is answered twice");
-    }
-    recording_.push_back({std::u16string(command), {}});
+    exchange_ = Exchange{std::u16string(command), {}, lineNumber_};
+    impliedCommand_.clear();
     linesPerScreen_ = 0;
   }
 
@@ -88,7 +162,7 @@ class RecordingReader {
         number.find_first_not_of(u"0123456789") != std::u16string_view::npos) {
       throw std::invalid_argument("unknown directive");
     }
-    if (recording_.empty()) {
+    if (!exchange_) {
       throw std::invalid_argument("@page must follow the command that it is for");
     }
     linesPerScreen_ = number.empty() ? kLinesPerScreen : std::stoul(ToUtf8(number));
@@ -113,12 +187,13 @@ class RecordingReader {
   static bool IsBlank(const RecordingLine& line) { return Trimmed(line.text).empty() && !line.isKept; }
   static bool IsUnpadded(const RecordingLine& line) { return !line.isPadded; }
 
-  void EndExchange() {
+  Exchange EndExchange() {
     if (screenIsDue_ || std::ranges::find_if_not(lines_, IsBlank) != lines_.end()) {
       EndScreen();
     }
     lines_.clear();
     screenIsDue_ = false;
+    return *std::exchange(exchange_, std::nullopt);
   }
 
   /// Makes the lines gathered so far a screen of the last command.
@@ -141,7 +216,7 @@ class RecordingReader {
     if (linesPerScreen_ != 0) {
       screens = Paginate(lines, linesPerScreen_);
     }
-    std::vector<std::u16string>& texts = recording_.back().screens;
+    std::vector<std::u16string>& texts = exchange_->screens;
     for (const std::vector<std::u16string>& screen : screens) {
       texts.push_back(JoinLines(screen));
     }
@@ -150,9 +225,21 @@ class RecordingReader {
     }
   }
 
+  std::istream& stream_;
   std::string name_;
+  /// Of the first display, where no command stands before it; empty from the first command on.
+  std::u16string impliedCommand_;
   std::size_t lineNumber_ = 0;
-  Recording recording_;
+  std::array<char, kLineLimit> buffer_{};
+  /// The line that is being read, in the buffer and decoded.
+  std::string_view bytes_;
+  std::u16string line_;
+  /// The command that ended the exchange before its own.
+  std::optional<std::u16string> command_;
+  std::optional<Exchange> exchange_;
+  /// Behind an error, until the next command.
+  bool skipping_ = false;
+  bool isBroken_ = false;
   /// The screen that is being read.
   std::vector<RecordingLine> lines_;
   /// After a separator.
@@ -161,9 +248,24 @@ class RecordingReader {
   std::size_t linesPerScreen_ = 0;
 };
 
-}  // namespace
+RecordingReader::RecordingReader(std::istream& stream, std::string name, std::u16string_view impliedCommand)
+    : reading_(std::make_unique<Reading>(stream, std::move(name), impliedCommand)) {}
 
-Recording ReadRecording(std::istream& stream, const std::string& name) { return RecordingReader(name).Read(stream); }
+RecordingReader::~RecordingReader() = default;
+
+std::optional<Exchange> RecordingReader::Next() { return reading_->Next(); }
+
+Recording ReadRecording(std::istream& stream, const std::string& name) {
+  RecordingReader reader(stream, name);
+  Recording recording;
+  while (auto exchange = reader.Next()) {
+    if (std::ranges::find(recording, exchange->command, &Exchange::command) != recording.end()) {
+      throw RecordingError(name + ":" + std::to_string(exchange->line) + ": the command is answered twice");
+    }
+    recording.push_back(*std::move(exchange));
+  }
+  return recording;
+}
 
 Recording ReadRecording(const std::filesystem::path& file) {
   const std::string name = ToUtf8(file.u16string());

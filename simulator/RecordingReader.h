@@ -3,8 +3,11 @@
 
 #include <filesystem>
 #include <istream>
+#include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 #include "simulator/Recording.h"
 
@@ -15,6 +18,27 @@ namespace qorltst::simulator {
 class RecordingError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
+};
+
+/// Reads the commands of a session file one after another, so that a file may be longer than memory. A command that is
+/// answered twice is no error here.
+class RecordingReader {
+ public:
+  /// The stream must outlive the reader. Where the file starts with screen lines, they answer `impliedCommand`; without
+  /// one that is an error.
+  RecordingReader(std::istream& stream, std::string name, std::u16string_view impliedCommand = {});
+  RecordingReader(const RecordingReader&) = delete;
+  RecordingReader& operator=(const RecordingReader&) = delete;
+  ~RecordingReader();
+
+  /// The next command with its answer; nothing at the end. Raises `RecordingError`, and then goes on with the command
+  /// after the damaged answer.
+  [[nodiscard]] std::optional<Exchange> Next();
+
+ private:
+  class Reading;
+
+  std::unique_ptr<Reading> reading_;
 };
 
 /// Reads UTF-8. `name` stands for the file in messages. Raises `RecordingError`.

@@ -1,6 +1,7 @@
 // One decoder for each encoding; conversion and checks are loops over them. See Utf.h.
 #include "simulator/Utf.h"
 
+#include <algorithm>
 #include <array>
 
 namespace qorltst::simulator {
@@ -93,6 +94,24 @@ void Append(std::u16string& text, char32_t character) {
   text.push_back(static_cast<char16_t>(0xDC00U + (rest & 0x3FFU)));
 }
 
+/// Displays hold little else; a loop without branches decides.
+template <class From>
+bool IsAscii(From text) {
+  unsigned bits = 0;
+  for (const auto unit : text) {
+    bits |= static_cast<unsigned>(unit);
+  }
+  return bits < 0x80;
+}
+
+/// ASCII in the units of the other encoding.
+template <class To, class From>
+To Widened(From text) {
+  To converted(text.size(), typename To::value_type());
+  std::ranges::transform(text, converted.begin(), [](auto unit) { return static_cast<typename To::value_type>(unit); });
+  return converted;
+}
+
 template <class To, class From>
 To Convert(From text) {
   To converted;
@@ -107,6 +126,9 @@ To Convert(From text) {
 
 template <class From>
 std::optional<std::size_t> FirstInvalid(From text) {
+  if (IsAscii(text)) {
+    return std::nullopt;
+  }
   for (std::size_t at = 0; at < text.size();) {
     const Decoded decoded = Decode(text, at);
     if (!decoded.valid) {
@@ -119,9 +141,13 @@ std::optional<std::size_t> FirstInvalid(From text) {
 
 }  // namespace
 
-std::string ToUtf8(std::u16string_view text) { return Convert<std::string>(text); }
+std::string ToUtf8(std::u16string_view text) {
+  return IsAscii(text) ? Widened<std::string>(text) : Convert<std::string>(text);
+}
 
-std::u16string ToUtf16(std::string_view text) { return Convert<std::u16string>(text); }
+std::u16string ToUtf16(std::string_view text) {
+  return IsAscii(text) ? Widened<std::u16string>(text) : Convert<std::u16string>(text);
+}
 
 std::string EscapeControls(std::string_view utf8) {
   static constexpr std::string_view kDigits = "0123456789abcdef";

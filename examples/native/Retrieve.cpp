@@ -4,13 +4,14 @@
 #include <exception>
 #include <iostream>
 #include <span>
+#include <string>
 #include <vector>
 
-#include "examples/native/ModelPrinter.h"
 #include "frame/TST.h"
 #include "simulator/RecordedSession.h"
 #include "simulator/SimulatedToolkit.h"
 #include "simulator/Utf.h"
+#include "tools/model/TextTree.h"
 
 namespace {
 
@@ -31,7 +32,9 @@ void Retrieve(const char* file) {
   const auto session = qorltst::simulator::RecordedSession::Load(file);
   const auto tst = Make<qorltst::TST>(*toolkit);
   std::cout << "Result " << tst->RetrieveCurrentTst(session.Get()) << '\n';
-  qorltst::examples::ModelPrinter(std::cout).Print(*tst);
+  std::string tree;
+  qorltst::model::PrintTree(tree, *tst, {});
+  std::cout << tree;
   PrintTrace(toolkit->Log()->Entries());
 }
 

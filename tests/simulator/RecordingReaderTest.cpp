@@ -128,6 +128,52 @@ TEST(RecordingReader, RefusesUnknownDirectives) {
   EXPECT_EQ(ErrorOf("> TQT\n@page 2\n"), "play.txt:2: a screen has three lines or more");
 }
 
+TEST(RecordingReader, HandsOutOneCommandAfterAnotherWithItsLine) {
+  std::istringstream stream("# a\n> TQT\nA\n> TQT\nB\n");
+  RecordingReader reader(stream, "play.txt");
+  for (const std::size_t line : {2U, 4U}) {
+    const auto exchange = reader.Next();
+    ASSERT_TRUE(exchange);
+    EXPECT_EQ(exchange->command, u"TQT");
+    EXPECT_EQ(exchange->line, line);
+  }
+  EXPECT_FALSE(reader.Next());
+  EXPECT_FALSE(reader.Next());
+}
+
+TEST(RecordingReader, GoesOnWithTheCommandBehindADamagedAnswer) {
+  std::istringstream stream("> TQT\nA\tB\n\xFF\nC\n> TQT/T2\nD\n>\nE\n> TQT/T3\n");
+  RecordingReader reader(stream, "play.txt");
+  EXPECT_THROW(static_cast<void>(reader.Next()), RecordingError);
+  const auto second = reader.Next();
+  ASSERT_TRUE(second);
+  EXPECT_EQ(second->command, u"TQT/T2");
+  EXPECT_EQ(second->screens, std::vector{Screen({u"D"})});
+  EXPECT_THROW(static_cast<void>(reader.Next()), RecordingError);
+  const auto last = reader.Next();
+  ASSERT_TRUE(last);
+  EXPECT_EQ(last->command, u"TQT/T3");
+  EXPECT_TRUE(last->screens.empty());
+}
+
+TEST(RecordingReader, TakesLinesBeforeAnyCommandForTheAnswerToTheImpliedOne) {
+  std::istringstream stream("# a\n\nA\n> TQT/T2\nB\n");
+  RecordingReader reader(stream, "play.txt", u"TQT");
+  const auto first = reader.Next();
+  ASSERT_TRUE(first);
+  EXPECT_EQ(first->command, u"TQT");
+  EXPECT_EQ(first->line, 3U);
+  EXPECT_EQ(first->screens, std::vector{Screen({u"A"})});
+  EXPECT_EQ(reader.Next().value().command, u"TQT/T2");
+}
+
+TEST(RecordingReader, RefusesALineThatNoScreenCouldHoldAndReadsALongComment) {
+  const std::string tooLong(100000, 'A');
+  EXPECT_EQ(ErrorOf("> TQT\n" + tooLong + "\n"), "play.txt:2: the line is too long");
+  EXPECT_EQ(ErrorOf("> TQT\n" + tooLong), "play.txt:2: the line is too long");
+  EXPECT_EQ(Read("> TQT\n#" + tooLong + "\nB\n")[0].screens, std::vector{Screen({u"B"})});
+}
+
 TEST(RecordingReader, NamesAFileThatCannotBeOpened) {
   const std::filesystem::path file = SourceFolder() / "no-such-file.txt";
   try {

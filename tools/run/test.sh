@@ -74,6 +74,10 @@ test_sanitized() {
     rm -rf "$kRoot/build/native-sanitize/profiles"
     program_step native-sanitize qorl_tests
     program_step native-sanitize qorl_memory_tests
+    # Left out where its libraries are not installed.
+    if [[ -x build/native-sanitize/qorl_tool_tests ]]; then
+      program_step native-sanitize qorl_tool_tests
+    fi
     coverage_step native-sanitize qorl_tests qorl_memory_tests
   fi
 }
@@ -110,7 +114,7 @@ test_package() {
 }
 
 command_test() {
-  provide "${kNativePackages[@]}" "${kLintPackages[@]}" valgrind "${kSanitizerPackages[@]}" "${kWindowsPackages[@]}" \
+  provide "${kNativePackages[@]}" "${kLintPackages[@]}" valgrind "${kPagePackages[@]}" "${kSanitizerPackages[@]}" "${kWindowsPackages[@]}" \
     "${kWinePackages[@]}" "${kPackagePackages[@]}"
   require "The tests" "${kNativePrograms[@]}"
   lint_format
