@@ -114,8 +114,8 @@ test_package() {
 }
 
 command_test() {
-  provide "${kNativePackages[@]}" "${kLintPackages[@]}" valgrind "${kPagePackages[@]}" "${kSanitizerPackages[@]}" "${kWindowsPackages[@]}" \
-    "${kWinePackages[@]}" "${kPackagePackages[@]}"
+  provide "${kNativePackages[@]}" "${kLintPackages[@]}" valgrind "${kPagePackages[@]}" "${kSanitizerPackages[@]}" \
+    "${kWindowsPackages[@]}" "${kWinePackages[@]}" "${kPackagePackages[@]}" "${kExamplePackages[@]}"
   require "The tests" "${kNativePrograms[@]}"
   lint_format
   lint_component
