@@ -33,8 +33,9 @@ std::size_t Distance(std::u16string_view from, std::u16string_view to) {
       row[j + 1] = std::min({changed, row[j] + 1, diagonal + 1});
     }
   }
-  // A name of which only the start was written counts as one change more.
-  return std::min(row.at(to.size()), *std::ranges::min_element(row) + 1);
+  const std::size_t whole = row.at(to.size());
+  // A name of which only the start was written counts as one change more; two letters are no start.
+  return from.size() < kShortestPart ? whole : std::min(whole, *std::ranges::min_element(row) + 1);
 }
 
 struct Candidate {
