@@ -9,8 +9,8 @@ if(NOT QORL_CLANG_TIDY)
   return()
 endif()
 
-set(tidyTargets qorltst_core qorl_simulator qorl_model qorl_model_json qorl_report qorl_tstdump_parts tstdump qorl_idl
-    qorl_reference qorl_manifest qorl_demo qorl_bench qorl_cost)
+set(tidyTargets qorltst_core qorl_simulator qorl_model qorl_model_json qorl_report qorl_tstdump_parts tstdump
+    qorl_shell_parts qorl_shell qorl_idl qorl_reference qorl_manifest qorl_demo qorl_bench qorl_cost)
 set(tidyArguments "")
 if(WIN32)
   set(tidyTargets qorltst_automation QorlTST QorlHostToolkit)

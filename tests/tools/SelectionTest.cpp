@@ -84,6 +84,11 @@ TEST(Selection, NamesNearPropertiesOfTheClassesChosen) {
   EXPECT_EQ(ErrorOf({"TST"}, {"RetrieveCurrentTst"}), "there is no property RetrieveCurrentTst");
 }
 
+TEST(NearNames, KnowsANameByItsStart) {
+  EXPECT_EQ(DidYouMean(u"FareBasLine", {u"FareBaseLineText", u"TotalLineText"}), "; did you mean FareBaseLineText?");
+  EXPECT_EQ(DidYouMean(u"fx", {u"FareBaseLineText"}), "");
+}
+
 TEST(NearNames, ListsAtMostFour) {
   EXPECT_EQ(DidYouMean(u"abc", {u"abc1", u"abc2", u"abc3", u"abc4", u"abc5"}),
             "; did you mean abc1, abc2, abc3 or abc4?");

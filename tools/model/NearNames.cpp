@@ -21,7 +21,7 @@ std::u16string Folded(std::u16string_view name) {
   return folded;
 }
 
-/// How many letters must be put in, left out or changed to make one name the other.
+/// How many letters must be put in, left out or changed to make one name the other, or the start of it.
 std::size_t Distance(std::u16string_view from, std::u16string_view to) {
   std::vector<std::size_t> row(to.size() + 1);
   std::iota(row.begin(), row.end(), std::size_t{0});
@@ -33,7 +33,9 @@ std::size_t Distance(std::u16string_view from, std::u16string_view to) {
       row[j + 1] = std::min({changed, row[j] + 1, diagonal + 1});
     }
   }
-  return row.at(to.size());
+  const std::size_t whole = row.at(to.size());
+  // A name of which only the start was written counts as one change more; two letters are no start.
+  return from.size() < kShortestPart ? whole : std::min(whole, *std::ranges::min_element(row) + 1);
 }
 
 struct Candidate {

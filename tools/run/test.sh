@@ -78,6 +78,7 @@ test_sanitized() {
     if [[ -x build/native-sanitize/qorl_tool_tests ]]; then
       program_step native-sanitize qorl_tool_tests
     fi
+    program_step native-sanitize qorl_shell_tests
     coverage_step native-sanitize qorl_tests qorl_memory_tests
   fi
 }
@@ -114,8 +115,9 @@ test_package() {
 }
 
 command_test() {
-  provide "${kNativePackages[@]}" "${kLintPackages[@]}" valgrind "${kPagePackages[@]}" "${kSanitizerPackages[@]}" "${kWindowsPackages[@]}" \
-    "${kWinePackages[@]}" "${kPackagePackages[@]}"
+  provide "${kNativePackages[@]}" "${kLintPackages[@]}" valgrind "${kPagePackages[@]}" "${kSanitizerPackages[@]}" \
+    "${kWindowsPackages[@]}" "${kWinePackages[@]}" "${kPackagePackages[@]}" "${kExamplePackages[@]}" \
+    "${kShellPackages[@]}"
   require "The tests" "${kNativePrograms[@]}"
   lint_format
   lint_component
