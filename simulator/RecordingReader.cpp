@@ -48,6 +48,8 @@ class RecordingReader::Reading {
     }
   }
 
+  [[nodiscard]] std::optional<std::u16string_view> Ahead() const { return command_; }
+
  private:
   std::optional<Exchange> ReadExchange() {
     if (command_) {
@@ -254,6 +256,8 @@ RecordingReader::RecordingReader(std::istream& stream, std::string name, std::u1
 RecordingReader::~RecordingReader() = default;
 
 std::optional<Exchange> RecordingReader::Next() { return reading_->Next(); }
+
+std::optional<std::u16string_view> RecordingReader::Ahead() const { return reading_->Ahead(); }
 
 Recording ReadRecording(std::istream& stream, const std::string& name) {
   RecordingReader reader(stream, name);

@@ -35,6 +35,10 @@ class RecordingReader {
   /// after the damaged answer.
   [[nodiscard]] std::optional<Exchange> Next();
 
+  /// The command that the next call goes on with, where the reader has come to it already: it ends the answer before
+  /// it.
+  [[nodiscard]] std::optional<std::u16string_view> Ahead() const;
+
  private:
   class Reading;
 

@@ -141,6 +141,16 @@ TEST(RecordingReader, HandsOutOneCommandAfterAnotherWithItsLine) {
   EXPECT_FALSE(reader.Next());
 }
 
+TEST(RecordingReader, TellsTheCommandThatItHasComeTo) {
+  std::istringstream stream("> TQT\nA\n>  MD \nB\n");
+  RecordingReader reader(stream, "play.txt");
+  EXPECT_EQ(reader.Ahead(), std::nullopt);
+  static_cast<void>(reader.Next());
+  EXPECT_EQ(reader.Ahead(), u"MD");
+  static_cast<void>(reader.Next());
+  EXPECT_EQ(reader.Ahead(), std::nullopt);
+}
+
 TEST(RecordingReader, GoesOnWithTheCommandBehindADamagedAnswer) {
   std::istringstream stream("> TQT\nA\tB\n\xFF\nC\n> TQT/T2\nD\n>\nE\n> TQT/T3\n");
   RecordingReader reader(stream, "play.txt");

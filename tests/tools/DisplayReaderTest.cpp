@@ -45,12 +45,18 @@ TEST(DisplayReader, TakesAFileWithoutACommandForOneDisplay) { EXPECT_EQ(Read("\n
 
 TEST(DisplayReader, RefusesAnMdWithoutADisplay) {
   EXPECT_EQ(Read("> MD\nB\n> TQT\nA\n"),
-            (Lines{"play.txt:1: MD must follow the display that it goes on with", "3 TQT 1"}));
+            (Lines{"play.txt:1: MD must follow the display that it goes on with, and once only", "3 TQT 1"}));
 }
 
 TEST(DisplayReader, RefusesASecondMdAndKeepsTheDisplay) {
-  EXPECT_EQ(Read("> TQT\nA\n> MD\nB\n> MD\nC\n> TQT\nD\n"),
-            (Lines{"1 TQT 1 1", "play.txt:5: the command is answered twice", "7 TQT 1"}));
+  EXPECT_EQ(
+      Read("> TQT\nA\n> MD\nB\n> MD\nC\n> TQT\nD\n"),
+      (Lines{"1 TQT 1 1", "play.txt:5: MD must follow the display that it goes on with, and once only", "7 TQT 1"}));
+}
+
+TEST(DisplayReader, RefusesADisplayOfWhichAScreenIsDamaged) {
+  EXPECT_EQ(Read("> TQT\nA\n> MD\n\\n\n> TQT\nB\n"),
+            (Lines{"play.txt:4: unknown escape; a backslash itself is written \\\\", "5 TQT 1"}));
 }
 
 TEST(DisplayReader, ReportsDamageBehindTheDisplayBeforeIt) {

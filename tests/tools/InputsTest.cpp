@@ -66,13 +66,17 @@ TEST_F(InputsTest, TakesFilesInTheirOrderAndGoesOnBehindAMissingOne) {
 TEST_F(InputsTest, TakesTheFilesOfAFolderAndBelowInTheOrderOfTheirNames) {
   Write("d/2/x");
   Write("d/1");
-  Write("d/3");
+  std::vector<std::string> expected{"d/1", "d/2/x"};
+  for (char name = 'z'; name >= 'a'; --name) {
+    Write(std::string("d/") + name);
+    expected.insert(expected.begin() + 2, std::string("d/") + name);
+  }
   Write("d/.hidden");
   Write("d/.git/y");
   fs::create_directory_symlink(folder_ / "d", folder_ / "d" / "loop");
   Options options;
   options.files = {(folder_ / "d").string()};
-  EXPECT_EQ(Names(options), (Lines{"d/1", "d/2/x", "d/3"}));
+  EXPECT_EQ(Names(options), expected);
 }
 
 TEST_F(InputsTest, ReadsNamesFromAList) {

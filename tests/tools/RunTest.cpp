@@ -78,6 +78,12 @@ TEST(Run, ShowsTheWholeLogOnRequest) {
   EXPECT_EQ(RunTool({}, kTicket).out.find("  log: "), std::string::npos);
 }
 
+TEST(Run, ShowsTheLogOfEachDisplayAlone) {
+  const std::string out = RunTool({"--jsonl"}, "> RH\nNO\n> RH\nNO\n").out;
+  const auto last = nlohmann::json::parse(out.substr(out.find('\n')));
+  EXPECT_EQ(last.at("log").size(), 1U);
+}
+
 TEST(Run, EndsWithZeroWhereWarningsAreAllUnlessItIsStrict) {
   EXPECT_EQ(RunTool({SamplePath("warnings.txt")}).code, ExitCode::AllGood);
   EXPECT_EQ(RunTool({"--strict", SamplePath("warnings.txt")}).code, ExitCode::SomeNotParsed);

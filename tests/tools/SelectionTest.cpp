@@ -44,6 +44,8 @@ TEST(Selection, FindsObjectsDeepInTheFareCalculation) {
                    "FareCalculation.Itineraries(2).AnySymbols(2):"}));
 }
 
+TEST(Selection, DoesNotGoIntoAnObjectThatIsShownWhole) { EXPECT_EQ(Matches({"TST", "AirSegment"}, {}), Names{":"}); }
+
 TEST(Selection, FindsAPropertyInEveryClassThatHasIt) {
   EXPECT_EQ(Matches({}, {"BOARDPOINT"}),
             (Names{"AirSegments(1): BoardPoint", "AirSegments(2): BoardPoint", "AirSegments(3): BoardPoint",

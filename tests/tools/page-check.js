@@ -9,11 +9,12 @@
     if (shown(tip)) findings.push("shown without focus: " + tip.textContent);
     piece.focus();
     if (document.activeElement !== piece) findings.push("takes no focus: " + piece.textContent);
+    piece.classList.add("focused");
     if (!shown(tip)) findings.push("not shown with focus: " + tip.textContent);
     const open = [...document.querySelectorAll(".tip")].filter(shown);
     if (document.documentElement.scrollWidth > innerWidth) findings.push("an explanation widens the page: " + tip.textContent);
     if (open.length > 1) findings.push("several explanations at once");
-    piece.blur();
+    piece.classList.remove("focused");
   }
 
   // Text has a contrast of 4.5 or more with what is behind it.

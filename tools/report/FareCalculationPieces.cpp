@@ -147,8 +147,8 @@ std::u16string Padded(std::u16string_view line) {
   return padded;
 }
 
-/// Whether a piece reaches over the end of one that it starts in.
-std::vector<Piece> Nested(std::vector<Piece> pieces) {
+/// Those that do not reach over the end of one that they start in.
+std::vector<Piece> Nested(const std::vector<Piece>& pieces) {
   std::vector<Piece> nested;
   std::vector<Piece> open;
   for (const Piece& piece : pieces) {

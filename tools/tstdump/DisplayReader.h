@@ -1,7 +1,6 @@
 // The displays of a session file, one after another. A file may hold more of them than memory does.
 #pragma once
 
-#include <exception>
 #include <optional>
 #include <string>
 
@@ -24,21 +23,13 @@ class DisplayReader {
   /// The stream must outlive the reader. `name` stands for it in messages.
   DisplayReader(std::istream& stream, std::string name);
 
-  /// The next display; nothing at the end. Raises `simulator::RecordingError`, and goes on behind the damage then.
+  /// The next display, as soon as the command after it has come in; nothing at the end. Raises
+  /// `simulator::RecordingError`, and goes on behind the damage then.
   [[nodiscard]] std::optional<Display> Next();
 
  private:
-  /// The next command, from the look ahead or from the file.
-  [[nodiscard]] std::optional<simulator::Exchange> Take();
-  /// Adds the recorded "MD" that follows.
-  void AddFurtherScreens(simulator::Recording& recording);
-  [[noreturn]] void Fail(std::size_t line, const std::string& reason) const;
-
   std::string name_;
   simulator::RecordingReader reader_;
-  /// What was read ahead: a command, or the failure to read it.
-  std::optional<simulator::Exchange> ahead_;
-  std::exception_ptr failure_;
 };
 
 }  // namespace qorltst::tstdump
