@@ -87,7 +87,7 @@ class AllocationFaults : public ::testing::TestWithParam<Sample> {
       ASSERT_EQ(Object::Living(), living);
     }
     RecordProperty("allocations", static_cast<int>(n));
-    EXPECT_GT(n, 30U) << "too few allocations to say anything";
+    EXPECT_GT(n, 10U) << "too few allocations to say anything";
   }
 
   CleanRetrieval clean_{GetParam().recording};
