@@ -26,7 +26,7 @@ check_cppcheck() {
   [[ -z $found ]] || { printf '%s\n' "$found" && return 1; }
 }
 
-# `./run test` has clang-tidy look at the component only: with everything else it takes as long as all the tests.
+# `./run test` has clang-tidy look for faults in the component only: everything else takes as long as all the tests.
 lint_component() {
   if have_programs cppcheck; then
     checked "lint cppcheck" check_cppcheck || true
