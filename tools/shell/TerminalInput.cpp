@@ -22,6 +22,7 @@ char** OfferWords(const char* /*word*/, int /*start*/, int end) {
   if (words.empty()) {
     return nullptr;
   }
+  // NOLINTNEXTLINE(cppcoreguidelines-owning-memory,cppcoreguidelines-no-malloc): the library calls free for it
   auto** const offered = static_cast<char**>(std::calloc(words.size() + 2, sizeof(char*)));
   if (offered != nullptr) {
     offered[0] = strdup(CommonStart(words).c_str());
