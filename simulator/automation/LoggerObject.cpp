@@ -16,8 +16,7 @@ Value CallSetApplication(Object& object, Arguments arguments) {
 }
 
 Value CallWrite(Object& object, Arguments arguments) {
-  LoggerOf(object).Write(NumberIn(arguments[0]), TextIn(arguments[1]), NumberIn(arguments[2]),
-                         TextIn(arguments[3]));
+  LoggerOf(object).Write(NumberIn(arguments[0]), TextIn(arguments[1]), NumberIn(arguments[2]), TextIn(arguments[3]));
   return {};
 }
 

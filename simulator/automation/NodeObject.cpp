@@ -76,9 +76,7 @@ Value CallFindNode(Object& object, Arguments arguments) {
   return Shown(StartOf(object, arguments[1]).FindNode(toolkit::NodeTypeId{NumberIn(arguments[0])}));
 }
 
-Value CallItem(Object& object, Arguments arguments) {
-  return ShownItem(NodeOf(object).Item(NumberIn(arguments[0])));
-}
+Value CallItem(Object& object, Arguments arguments) { return ShownItem(NodeOf(object).Item(NumberIn(arguments[0]))); }
 
 Value CallTypeId(Object& object, Arguments /*none*/) { return static_cast<std::int32_t>(NodeOf(object).TypeId()); }
 

@@ -15,8 +15,7 @@ constexpr std::int32_t kFileNotFound = 53;
 RecordedSession& SessionOf(Object& object) { return static_cast<SessionObject&>(object).Session(); }
 
 Value CallSendCommand(Object& object, Arguments arguments) {
-  Ref<toolkit::HostResponse> response =
-      SessionOf(object).SendCommand(TextIn(arguments[0]), FlagArgument(arguments[1]));
+  Ref<toolkit::HostResponse> response = SessionOf(object).SendCommand(TextIn(arguments[0]), FlagArgument(arguments[1]));
   return response ? Ref<Object>(Make<ResponseObject>(std::move(response))) : nullptr;
 }
 

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "frame/Collection.h"
+#include "support/Client.h"
 #include "support/MemoryWatch.h"
 #include "support/NoToolkit.h"
 #include "support/OddAnswers.h"
