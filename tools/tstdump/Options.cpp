@@ -79,7 +79,7 @@ void AddOptions(CLI::App& app, Written& written) {
 }
 
 Options PutTogether(Written written) {
-  Options& options = written.options;
+  Options options = std::move(written.options);
   if (written.json || written.jsonLines) {
     options.format = written.json ? Format::Json : Format::JsonLines;
   }
@@ -106,7 +106,7 @@ Options PutTogether(Written written) {
   if (options.files.empty() && options.filesFrom.empty()) {
     options.files.emplace_back("-");
   }
-  return std::move(options);
+  return options;
 }
 
 }  // namespace
