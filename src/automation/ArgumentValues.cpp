@@ -19,7 +19,7 @@ Ref<Object> ObjectFrom(IDispatch* dispatch, ValueType type) {
   if (dispatch == nullptr) {
     return nullptr;
   }
-  const Ref<Object> own = OwnObject(dispatch);
+  Ref<Object> own = OwnObject(dispatch);
   if (type == ValueType::Automation) {
     return CollectionFrom(*dispatch, own);
   }
