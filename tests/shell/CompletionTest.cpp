@@ -1,6 +1,9 @@
 // What Tab offers. See tools/shell/Completion.h.
 #include <gmock/gmock.h>
 
+#include <filesystem>
+#include <fstream>
+
 #include "tests/shell/Ticket.h"
 #include "tools/shell/Completion.h"
 
@@ -49,11 +52,25 @@ TEST_F(CompletionTest, ArgumentsFollowTheirCommand) {
   EXPECT_THAT(Words("ZapOff "), IsEmpty());
 }
 
+/// What is offered stands in the place of the last word, so a folder with blanks is there from its last one on.
+std::string LastWord(const std::string& name) { return name.substr(name.find_last_of(' ') + 1); }
+
 TEST_F(CompletionTest, FilesAreOfferedForADisplay) {
   const std::string folder = QORL_SOURCE_DIR "/examples/";
-  EXPECT_THAT(Words("display " + folder + "disp"), ElementsAre(folder + "displays/"));
-  EXPECT_THAT(Words("display " + folder + "displays/not"), ElementsAre(folder + "displays/not-a-tst.txt"));
+  EXPECT_THAT(Words("display " + folder + "disp"), ElementsAre(LastWord(folder) + "displays/"));
+  EXPECT_THAT(Words("display " + folder + "displays/not"), ElementsAre(LastWord(folder) + "displays/not-a-tst.txt"));
   EXPECT_THAT(Words("display /no/such/folder/"), IsEmpty());
+}
+
+TEST_F(CompletionTest, NamesOfFilesMayHoldBlanks) {
+  const std::filesystem::path folder = std::filesystem::path(::testing::TempDir()) / "two words of qorl";
+  std::filesystem::create_directories(folder);
+  std::ofstream(folder / "a first one.txt") << "";
+  EXPECT_THAT(Words("  display  " + folder.string() + "/a fi"), ElementsAre("first one.txt"));
+  EXPECT_THAT(Words("display " + folder.string() + "/a si"), IsEmpty());
+  EXPECT_THAT(Words("display " + folder.parent_path().string() + "/two words o"), ElementsAre("of qorl/"));
+  EXPECT_THAT(Words("tree two words"), IsEmpty());
+  std::filesystem::remove_all(folder);
 }
 
 TEST(CommonStartTest, IsWhatAllWordsStartWithButForTheCaseOfLetters) {

@@ -58,7 +58,7 @@ test_valgrind() {
     return 0
   fi
   checked "valgrind retrievals" memcheck build/native-release/qorl_tests \
-    --gtest_filter='*EndToEnd*:*Retrieval*:TstTest*:TstParser*:*AmountTest*:*CannotBeRead*:HostScreens.That*' || true
+    --gtest_filter='*EndToEnd*:RetrievalTest*:TstTest*:TstParser*:AmountTest*:HostScreens.That*' || true
   checked "valgrind allocations" memcheck build/native-release/qorl_memory_tests \
     --gtest_filter='*warnings*:*fcexchange*:*Classes*:*Begin*' || true
 }

@@ -71,10 +71,27 @@ void AddFiles(Words& words, std::string_view word) {
   }
 }
 
-void AddArguments(Words& words, const Shell& shell, Shell::Argument argument, std::string_view word) {
+/// A file's name is the rest of the line, blanks included; what is offered stands in the place of its last word alone.
+void AddFileWords(Words& words, std::string_view rest, std::string_view word) {
+  Words files;
+  AddFiles(files, rest);
+  const std::size_t before = rest.size() - word.size();
+  for (const std::string& file : files) {
+    if (StartsAs(file, rest)) {
+      words.push_back(file.substr(before));
+    }
+  }
+}
+
+/// `rest` is what follows the command, `word` its last word.
+void AddArguments(Words& words, const Shell& shell, Shell::Argument argument, std::string_view rest,
+                  std::string_view word) {
+  if (argument != Shell::Argument::File && rest != word) {
+    return;
+  }
   switch (argument) {
     case Shell::Argument::File:
-      return AddFiles(words, word);
+      return AddFileWords(words, rest, word);
     case Shell::Argument::Entry:
       words = shell.CurrentHost().Entries();
       return;
@@ -95,19 +112,21 @@ void AddArguments(Words& words, const Shell& shell, Shell::Argument argument, st
 }  // namespace
 
 Words Complete(const Shell& shell, std::string_view line) {
-  const std::size_t start = line.find_last_of(" \t") + 1;
-  const std::string_view word = line.substr(start);
-  const std::string_view before = Trimmed(line.substr(0, start));
+  const std::string_view word = line.substr(line.find_last_of(" \t") + 1);
+  const std::string_view trimmed = line.substr(std::min(line.find_first_not_of(" \t"), line.size()));
+  const std::size_t blank = trimmed.find_first_of(" \t");
   Words words;
-  if (before.empty()) {
+  if (blank == std::string_view::npos) {
     words = shell.CurrentHost().Entries();
     AddPaths(words, shell.Ticket(), word);
   }
   for (const Shell::Command& command : Shell::Commands()) {
-    if (before.empty()) {
+    if (blank == std::string_view::npos) {
       words.emplace_back(command.name);
-    } else if (IsSameName(command.name, before)) {
-      AddArguments(words, shell, command.argument, word);
+    } else if (IsSameName(command.name, trimmed.substr(0, blank))) {
+      const std::string_view rest = trimmed.substr(blank);
+      const std::size_t start = rest.find_first_not_of(" \t");
+      AddArguments(words, shell, command.argument, start == std::string_view::npos ? word : rest.substr(start), word);
     }
   }
   std::erase_if(words, [word](const std::string& candidate) { return !StartsAs(candidate, word); });
