@@ -28,6 +28,18 @@ TEST_F(EtLogTest, TraceWithoutASourceHasThePrefixAlone) {
   ExpectLog({{3, u"QorlTST.", 1, u"a message"}});
 }
 
+TEST_F(EtLogTest, ASourceOfAnyLengthIsWhole) {
+  for (std::size_t length = 0; length < 300; ++length) {
+    std::u16string source(length, u'x');
+    if (length > 0) {
+      source.back() = u'y';
+    }
+    toolkit_->log.clear();
+    log_->LogTrace(u"text", source);
+    ExpectLog({{3, u"QorlTST." + source, 1, u"text"}});
+  }
+}
+
 TEST_F(EtLogTest, HostErrorHasItsNumberAndText) {
   log_->LogHostError(1004, u"Here");
   ExpectLog({{0, u"QorlTST.Here", 1004, u"User not sign in"}});

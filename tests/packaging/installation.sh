@@ -61,7 +61,7 @@ lays_out_the_package() {
   [[ $(listed_value DisplayVersion) == "${PACKAGE##*-}" ]] || fail "listed with another version"
   [[ $(listed_value QuietUninstallString) == '"C:\Program Files\QorlTST\uninstall.exe" /S' ]] ||
     fail "listed with another uninstaller"
-  remove
+  remove || fail "the uninstaller did not come to its end"
 }
 
 registers_what_can_run() {
@@ -71,7 +71,7 @@ registers_what_can_run() {
   for architecture in 64 32; do
     server "$architecture" >"$kScratch/server.$architecture"
   done
-  remove
+  remove || fail "the uninstaller did not come to its end"
   for architecture in $(architectures); do
     [[ $(<"$kScratch/server.$architecture") == 'C:\Program Files\QorlTST\x'"${architecture/32/86}"'\QorlTST.dll' ]] ||
       fail "for $architecture bits served by '$(<"$kScratch/server.$architecture")'"
@@ -86,7 +86,7 @@ installed_component_retrieves() {
   (cd "$kFolder" && quietly cscript //nologo 'examples\retrieve.vbs' 'examples\displays\rich.txt')
   tr -d '\r' <"$kScratch/output" >"$kScratch/printed"
   simulator /u
-  remove
+  remove || fail "the uninstaller did not come to its end"
   head -n 3 "$kScratch/printed"
   grep -q '^Result  *0 (parsed)$' "$kScratch/printed" || fail "nothing was retrieved"
   [[ $(tail -n 1 "$kScratch/printed") == "done" ]] || fail "the script did not come to its end"
@@ -109,7 +109,7 @@ second_replaces_the_first() {
   install 'C:\Program Files\QorlTST' || fail "the second installer ended with $?"
   [[ ! -e $kDrive/Tools ]] || fail "the first one is still there"
   [[ -e $kFolder/uninstall.exe ]] || fail "the second one is not there"
-  remove
+  remove || fail "the uninstaller did not come to its end"
   expect_unchanged
 }
 
@@ -123,7 +123,7 @@ removal_leaves_nothing() {
 removal_spares_other_files() {
   install || fail "the installer ended with $?"
   echo "the user's" >"$kFolder/examples/own.txt"
-  remove
+  remove || fail "the uninstaller did not come to its end"
   [[ $(cd "$kFolder" && find . -type f) == ./examples/own.txt ]] || fail "not the user's file alone is left"
   rm -r "$kFolder"
 }
