@@ -23,6 +23,8 @@ struct CollectionLine {
   /// What each element holds, in order.
   std::vector<Texts> elements;
   std::vector<Entry> log;
+
+  friend void PrintTo(const CollectionLine& line, std::ostream* out) { *out << line.name; }
 };
 
 /// The traces of a builder around those of one element, or of several.

@@ -122,6 +122,8 @@ struct Single {
   std::int32_t field;
   std::u16string_view fieldProperty;
   std::int32_t group;
+
+  friend void PrintTo(const Single& single, std::ostream* out) { *out << testing::Readable(single.property); }
 };
 
 class SingleObjectTest : public testing::ParserFixture, public ::testing::WithParamInterface<Single> {
