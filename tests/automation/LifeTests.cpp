@@ -72,6 +72,9 @@ std::size_t BytesInUse() {
   return bytes;
 }
 
+/// Whether the host's answer was taken for what it is; in the long form some displays are damaged or no tickets.
+bool IsAnswer(std::int32_t code) { return code == 0 || code == 1000 || code == 1005 || code == 1006; }
+
 TEST(Life, ManyRetrievalsLeaveNothingBehind) {
   const int rounds = testing::LongForm() ? 10000 : 1000;
   const Installed installed(kToolkitFile);
@@ -82,8 +85,8 @@ TEST(Life, ManyRetrievalsLeaveNothingBehind) {
     const Client session = servers.NewSession(displays[static_cast<std::size_t>(i) % displays.size()]);
     const Client tst = servers.NewTst();
     const std::int32_t code = Retrieve(tst, session);
-    ASSERT_TRUE(code == 0 || code == 1005) << code;
-    ASSERT_FALSE(SummaryOf(tst).empty());
+    ASSERT_TRUE(IsAnswer(code)) << code;
+    ASSERT_EQ(SummaryOf(tst).empty(), code == 1000 || code == 1006);
     servers.ForgetTheLog();
     early = i == rounds / 10 ? BytesInUse() : early;
   }
@@ -114,7 +117,7 @@ void RetrieveOften(const Servers& servers, DWORD apartment, const std::map<std::
         const Client session = servers.NewSession(display);
         const Client tst = servers.NewTst();
         const std::int32_t code = Retrieve(tst, session);
-        const bool good = (code == 0 || code == 1005) && SummaryOf(tst) == summary;
+        const bool good = IsAnswer(code) && SummaryOf(tst) == summary;
         outcome.good += good ? 1 : 0;
         outcome.trouble = good ? outcome.trouble : display + " gave " + std::to_string(code);
       }
