@@ -40,15 +40,10 @@ void TstLine(TstParser& /*parser*/, ParseNode& node, TST& tst, Harvest& /*harves
   (tst.*Fill)(node);
 }
 
-template <class ElementClass, CollectionKind CollectionOf>
-void AddFilled(TstParser& parser, ParseNode& node, Harvest& harvest) {
-  harvest.Of(CollectionOf).AddFilled<ElementClass>(parser.Toolkit(), node);
-}
-
 /// A line that is one element of a collection.
 template <class ElementClass, CollectionKind CollectionOf, const TraceTexts& Texts>
 void OneElement(TstParser& parser, ParseNode& node, TST& /*tst*/, Harvest& harvest) {
-  parser.Traced(Texts, [&] { AddFilled<ElementClass, CollectionOf>(parser, node, harvest); });
+  parser.Traced(Texts, [&] { harvest.Of(CollectionOf).AddFilled<ElementClass>(parser.Toolkit(), node); });
 }
 
 /// A line whose container holds one element in each child; without the container there is none.
@@ -56,8 +51,9 @@ template <class ElementClass, CollectionKind CollectionOf, NodeTypeId Container,
 void ContainedElements(TstParser& parser, ParseNode& node, TST& /*tst*/, Harvest& harvest) {
   parser.Traced(Texts, [&] {
     if (const auto container = node.FindNode(Container)) {
-      ForEachChild(*container,
-                   [&](ParseNode& child) { AddFilled<ElementClass, CollectionOf>(parser, child, harvest); });
+      ForEachChild(*container, [&](ParseNode& child) {
+        harvest.Of(CollectionOf).AddFilled<ElementClass>(parser.Toolkit(), child);
+      });
     }
   });
 }

@@ -1,11 +1,10 @@
 // One overload for each type of property. See ModelDump.h.
 #include "tests/support/ModelDump.h"
 
-#include <functional>
 #include <variant>
 
 #include "frame/ClassDescription.h"
-#include "frame/Collection.h"
+#include "tools/model/ModelWalk.h"
 
 namespace qorltst::testing {
 namespace {
@@ -30,55 +29,40 @@ struct ValueText {
   std::u16string operator()(const Method& /*method*/) const { return {}; }
 };
 
-using Visit = std::function<void(const std::u16string& path, Object& object)>;
-
-void ForEachObject(Object& object, const std::u16string& path, const Visit& visit) {
-  if (const auto* const collection = dynamic_cast<const Collection*>(&object)) {
-    for (std::int32_t i = 1; i <= collection->Count(); ++i) {
-      ForEachObject(*collection->Item(i), path + u'(' + Ascii(std::to_string(i)) + u')', visit);
-    }
-    return;
-  }
-  visit(path, object);
-  for (const Member& row : object.Description().members) {
-    const auto* const field = std::get_if<ObjectField>(&row.access);
-    if (Object* const child = field != nullptr ? field->in(object) : nullptr) {
-      ForEachObject(*child, path.empty() ? std::u16string(row.name) : path + u'.' + std::u16string(row.name), visit);
-    }
-  }
-}
-
 }  // namespace
 
 ModelDump DumpOf(Object& root) {
   ModelDump dump;
-  ForEachObject(root, u"", [&dump](const std::u16string& path, Object& object) {
+  model::WalkObjects(root, [&dump](const std::string& path, Object& object) {
     for (const Member& row : object.Description().members) {
       if (!std::holds_alternative<ObjectField>(row.access) && !std::holds_alternative<Method>(row.access)) {
-        dump[path + u'.' + std::u16string(row.name)] = std::visit(ValueText{object}, row.access);
+        dump[Ascii(path) + u'.' + std::u16string(row.name)] = std::visit(ValueText{object}, row.access);
       }
     }
+    return true;
   });
   return dump;
 }
 
 std::set<std::u16string> ClassesOf(Object& root) {
   std::set<std::u16string> classes;
-  ForEachObject(root, u"", [&classes](const std::u16string& /*path*/, Object& object) {
+  model::WalkObjects(root, [&classes](const std::string& /*path*/, Object& object) {
     classes.emplace(object.Description().name);
+    return true;
   });
   return classes;
 }
 
 std::set<std::u16string> AbsentObjectsOf(Object& root) {
   std::set<std::u16string> absent;
-  ForEachObject(root, u"", [&absent](const std::u16string& /*path*/, Object& object) {
+  model::WalkObjects(root, [&absent](const std::string& /*path*/, Object& object) {
     for (const Member& row : object.Description().members) {
       const auto* const field = std::get_if<ObjectField>(&row.access);
       if (field != nullptr && field->in(object) == nullptr) {
         absent.insert(std::u16string(object.Description().name) + u'.' + std::u16string(row.name));
       }
     }
+    return true;
   });
   return absent;
 }
