@@ -48,8 +48,6 @@ struct AnyPFC::Table {
 constinit const ClassDescription AnyPFC::kDescription = Table::kMembers.Describe(
     u"AnyPFC", u"A facility charge, a segment tax, or a combined or previously paid tax.", &CreateObject<AnyPFC>);
 
-AnyPFC::AnyPFC(toolkit::Toolkit& toolkit) : LineElement(toolkit), cityDigits_(Make<Collection>()) {}
-
 void AnyPFC::FillWithData(ParseNode& node) {
   Traced(kFillTexts, [&] {
     Gathering digits;

@@ -11,7 +11,7 @@ class AnyPFC final : public LineElement {
  public:
   static const ClassDescription kDescription;
 
-  explicit AnyPFC(toolkit::Toolkit& toolkit);
+  explicit AnyPFC(toolkit::Toolkit& toolkit) : LineElement(toolkit) {}
 
   [[nodiscard]] const ClassDescription& Description() const noexcept override { return kDescription; }
 
@@ -24,7 +24,7 @@ class AnyPFC final : public LineElement {
   void BuildCityDigits(toolkit::ParseNode& node, Gathering& digits);
 
   bool domesticUSFlight_ = false;
-  Ref<Collection> cityDigits_;
+  CollectionProperty cityDigits_;
   bool combinedTax_ = false;
   bool paxFacilityCharge_ = false;
   bool previousPaid_ = false;

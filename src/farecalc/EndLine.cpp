@@ -68,8 +68,6 @@ constinit const ClassDescription EndLine::kDescription = Table::kMembers.Describ
     u"EndLine", u"The end of a fare calculation: end marker, total fare, rate of exchange, facility charges.",
     &CreateObject<EndLine>);
 
-EndLine::EndLine(toolkit::Toolkit& toolkit) : LineElement(toolkit), anyPFCs_(Make<Collection>()) {}
-
 void EndLine::FillWithData(ParseNode& node) {
   Trace(kFillTexts.begin);
   Gathering items;

@@ -13,7 +13,7 @@ class EndLine final : public LineElement {
  public:
   static const ClassDescription kDescription;
 
-  explicit EndLine(toolkit::Toolkit& toolkit);
+  explicit EndLine(toolkit::Toolkit& toolkit) : LineElement(toolkit) {}
 
   [[nodiscard]] const ClassDescription& Description() const noexcept override { return kDescription; }
 
@@ -29,7 +29,7 @@ class EndLine final : public LineElement {
   std::u16string freeFlowText_;  // shown to nobody, and that is meant
 
   bool endId_ = false;
-  Ref<Collection> anyPFCs_;
+  CollectionProperty anyPFCs_;
   std::u16string fareAfterNucLowCombCityCode_;
   std::u16string fareAfterNucCurrencyCode_;
   std::u16string fareAfterNucAmount_;

@@ -132,15 +132,8 @@ constinit const ClassDescription FareCalculation::kDescription = Table::kMembers
 
 FareCalculation::FareCalculation(toolkit::Toolkit& toolkit)
     : LineElement(toolkit),
-      itineraries_(Make<Collection>()),
-      extraSeats_(Make<Collection>()),
-      fareMinimums_(Make<Collection>()),
-      itineraryCompositeElements_(Make<Collection>()),
       departureRoutingPoint_(Make<DepartureRoutingPoint>(toolkit)),
-      higherClassDifferentials_(Make<Collection>()) {
-  // After the departure point, whose debug id comes first.
-  endLine_ = Make<EndLine>(toolkit);  // cppcheck-suppress useInitializationList
-}
+      endLine_(Make<EndLine>(toolkit)) {}
 
 FareCalculation::~FareCalculation() = default;
 

@@ -42,13 +42,14 @@ class FareCalculation final : public LineElement {
   std::u16string fareCommonNumberStopAllowed_;
   std::u16string fareCommonLessId_;
   std::u16string fareCommonId_;
-  Ref<Collection> itineraries_;
-  Ref<Collection> extraSeats_;
-  Ref<Collection> fareMinimums_;
-  Ref<Collection> itineraryCompositeElements_;
-  Ref<EndLine> endLine_;
+  CollectionProperty itineraries_;
+  CollectionProperty extraSeats_;
+  CollectionProperty fareMinimums_;
+  CollectionProperty itineraryCompositeElements_;
+  CollectionProperty higherClassDifferentials_;
+  // In this order: each takes the next debug ids.
   Ref<DepartureRoutingPoint> departureRoutingPoint_;
-  Ref<Collection> higherClassDifferentials_;
+  Ref<EndLine> endLine_;
   std::u16string fareCommonCurrencyCode_;
   std::u16string fareCommonAmountToSub_;
   std::u16string fareCommonAmount_;

@@ -64,7 +64,7 @@ constinit const ClassDescription HigherClassDifferential::kDescription = Table::
     &CreateObject<HigherClassDifferential>);
 
 HigherClassDifferential::HigherClassDifferential(toolkit::Toolkit& toolkit)
-    : LineElement(toolkit), fare_(Make<Fare>(toolkit)), fareHigherIntermediates_(Make<Collection>()) {}
+    : LineElement(toolkit), fare_(Make<Fare>(toolkit)) {}
 
 HigherClassDifferential::~HigherClassDifferential() = default;
 

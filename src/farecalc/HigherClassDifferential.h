@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "frame/Collection.h"
+#include "frame/CollectionProperty.h"
 #include "frame/LineElement.h"
 
 namespace qorltst {
@@ -34,7 +34,7 @@ class HigherClassDifferential final : public LineElement {
   bool bulkTourFare_ = false;
   bool mileageId_ = false;
   Ref<Fare> fare_;
-  Ref<Collection> fareHigherIntermediates_;
+  CollectionProperty fareHigherIntermediates_;
   std::u16string mileagePercentage_;
   std::u16string cityPair_;
 };

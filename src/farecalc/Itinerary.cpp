@@ -86,9 +86,6 @@ constinit const ClassDescription Itinerary::kDescription = Table::kMembers.Descr
     u"Itinerary", u"A fare component: the carrier and city that end it, its fare, mileage and stop-overs.",
     &CreateObject<Itinerary>);
 
-Itinerary::Itinerary(toolkit::Toolkit& toolkit)
-    : RoutingElement(toolkit), anySymbols_(Make<Collection>()), itineraryCompositeElements_(Make<Collection>()) {}
-
 // The misspelt sources and the one with a parenthesis are part of the log.
 struct Itinerary::Texts {
   static constexpr TraceTexts kFill{

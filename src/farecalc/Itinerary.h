@@ -10,7 +10,7 @@ class Itinerary final : public RoutingElement {
  public:
   static const ClassDescription kDescription;
 
-  explicit Itinerary(toolkit::Toolkit& toolkit);
+  explicit Itinerary(toolkit::Toolkit& toolkit) : RoutingElement(toolkit) {}
 
   [[nodiscard]] const ClassDescription& Description() const noexcept override { return kDescription; }
 
@@ -27,8 +27,8 @@ class Itinerary final : public RoutingElement {
   struct Texts;
 
   bool fareLessId_ = false;
-  Ref<Collection> anySymbols_;
-  Ref<Collection> itineraryCompositeElements_;
+  CollectionProperty anySymbols_;
+  CollectionProperty itineraryCompositeElements_;
 };
 
 }  // namespace qorltst

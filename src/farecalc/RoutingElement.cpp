@@ -25,9 +25,6 @@ constexpr TraceTexts kFictitiousPointTexts{
 
 }  // namespace
 
-RoutingElement::RoutingElement(toolkit::Toolkit& toolkit)
-    : LineElement(toolkit), otherSurcharges_(Make<Collection>()), mileageEqualizationRules_(Make<Collection>()) {}
-
 void RoutingElement::BuildMileageItem(ParseNode& node, const TraceTexts& texts) {
   mileageId_ = false;  // before the begin line; the tour flags are only ever set
   Traced(texts, [&] { WalkMileageItem(node, {inclusiveTourFare_, bulkTourFare_, mileageId_, mileagePercentage_}); });

@@ -13,7 +13,7 @@ namespace qorltst {
 /// differently, mark a less fare each in its own way, and read symbols, surcharges and composite elements themselves.
 class RoutingElement : public LineElement {
  protected:
-  explicit RoutingElement(toolkit::Toolkit& toolkit);
+  explicit RoutingElement(toolkit::Toolkit& toolkit) : LineElement(toolkit) {}
 
   /// The texts of the operations that each class writes under its own name. The other three (lowest combination,
   /// stop-over charge, fictitious point) are written under the name of `Itinerary` by both.
@@ -49,8 +49,8 @@ class RoutingElement : public LineElement {
   bool mileageId_ = false;
   bool inclusiveTourFare_ = false;
   bool bulkTourFare_ = false;
-  Ref<Collection> otherSurcharges_;
-  Ref<Collection> mileageEqualizationRules_;
+  CollectionProperty otherSurcharges_;
+  CollectionProperty mileageEqualizationRules_;
 
  private:
   void BuildMileageItem(toolkit::ParseNode& node, const TraceTexts& texts);

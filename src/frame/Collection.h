@@ -19,7 +19,12 @@ class Collection final : public Object {
   [[nodiscard]] const ClassDescription& Description() const noexcept override { return kDescription; }
 
   /// Appends an object. Never absent.
-  void Add(Ref<Object> item) { items_.push_back(std::move(item)); }
+  void Add(Ref<Object> item) {
+    if (items_.empty()) {
+      items_.reserve(kUsualCount);
+    }
+    items_.push_back(std::move(item));
+  }
 
   [[nodiscard]] std::int32_t Count() const noexcept { return static_cast<std::int32_t>(items_.size()); }
 
@@ -31,6 +36,9 @@ class Collection final : public Object {
 
  private:
   struct Table;
+
+  /// Few lines of a ticket occur more often; up to here a collection takes its memory at one go.
+  static constexpr std::size_t kUsualCount = 4;
 
   std::vector<Ref<Object>> items_;
 };

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "frame/Collection.h"
+#include "frame/CollectionProperty.h"
 #include "toolkit/ParseNode.h"
 #include "toolkit/Toolkit.h"
 
@@ -29,9 +29,9 @@ class Gathering {
   }
 
   /// Puts what was gathered in the place of a collection, unless nothing was.
-  void InstallIn(Ref<Collection>& collection) const {
+  void InstallIn(CollectionProperty& collection) const noexcept {
     if (items_) {
-      collection = items_;
+      collection.Replace(items_);
     }
   }
 

@@ -129,9 +129,9 @@ consteval Access Field() {
 /// The access to a collection of objects of this class.
 template <class Item, auto... Path>
 consteval Access Items() {
-  ObjectField field = std::get<ObjectField>(Field<Path...>());
-  field.items = &DescriptionOf<Item>;
-  return field;
+  using Reach = detail::Reach<Path...>;
+  return ObjectField{[](Object& object) { return Reach::In(object).Get(); },
+                     &DescriptionOf<typename Reach::Type::Class>, &DescriptionOf<Item>};
 }
 
 }  // namespace qorltst

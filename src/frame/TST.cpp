@@ -10,9 +10,6 @@
 namespace qorltst {
 
 TST::TST(toolkit::Toolkit& toolkit) : Element(toolkit) {
-  for (Ref<Object>& collection : collections_) {
-    collection = Make<Collection>();
-  }
   // In this order: each takes the next debug ids.
   fareCalculation_ = Make<FareCalculation>(toolkit);
   feElement_ = Make<FEElement>(toolkit);
@@ -39,7 +36,7 @@ TstCommunication& TST::Communication() {
 }
 
 void TST::SetCollection(CollectionKind kind, Ref<Object> collection) {
-  collections_[static_cast<std::size_t>(kind)] = std::move(collection);
+  collections_[static_cast<std::size_t>(kind)].Replace(std::move(collection));
 }
 
 void TST::SetFareCalculation(Ref<FareCalculation> fareCalculation) { fareCalculation_ = std::move(fareCalculation); }

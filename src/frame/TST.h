@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "frame/Collection.h"
+#include "frame/CollectionProperty.h"
 #include "frame/Element.h"
 #include "toolkit/HostSession.h"
 #include "toolkit/ParseNode.h"
@@ -60,7 +60,7 @@ class TST final : public Element {
   // What the parser calls. Callers of the component do not see these: they stand in no table.
 
   /// Keeps the whole display text.
-  void SetTextToParse(std::u16string_view text);
+  void SetTextToParse(std::u16string text);
 
   /// Each fills the properties of one line from its node. A failure leaves what was set before it.
   void FillTotalWithData(toolkit::ParseNode& node);
@@ -83,7 +83,7 @@ class TST final : public Element {
 
   TstCommunication& Communication();
 
-  std::array<Ref<Object>, kCollectionKinds> collections_;
+  std::array<CollectionProperty, kCollectionKinds> collections_;
   Ref<FareCalculation> fareCalculation_;
   Ref<FEElement> feElement_;
   Ref<ItineraryLastLine> itineraryLastLine_;

@@ -19,8 +19,8 @@ auto TextAndAmount(std::u16string& text, Currency& amount) {
 
 }  // namespace
 
-void TST::SetTextToParse(std::u16string_view text) {
-  Traced(kUsualTexts<u"SetTextToParse", u"TST">, [&] { text_ = text; });
+void TST::SetTextToParse(std::u16string text) {
+  Traced(kUsualTexts<u"SetTextToParse", u"TST">, [&] { text_ = std::move(text); });
 }
 
 void TST::FillTotalWithData(ParseNode& node) {

@@ -29,10 +29,10 @@ std::u16string DecimalText(std::int32_t number) {
 
 }  // namespace
 
-std::int32_t TstParser::ParseTst(std::u16string_view text, TST& tst) {
+std::int32_t TstParser::ParseTst(std::u16string text, TST& tst) {
   Trace(kBegin);
   try {
-    return Parse(text, tst);
+    return Parse(std::move(text), tst);
   } catch (...) {
     const RuntimeError error = toolkit::CurrentRuntimeError();
     const PendingError pending(error);
@@ -42,7 +42,7 @@ std::int32_t TstParser::ParseTst(std::u16string_view text, TST& tst) {
   }
 }
 
-std::int32_t TstParser::Parse(std::u16string_view text, TST& tst) {
+std::int32_t TstParser::Parse(std::u16string text, TST& tst) {
   const Ref<ParseNode> root = Toolkit().CreateParser();
   if (root->Parse(text, toolkit::kParseMode) != toolkit::kParseSuccess) {
     Trace(kParsingError);
@@ -52,7 +52,7 @@ std::int32_t TstParser::Parse(std::u16string_view text, TST& tst) {
     Trace(kNotATst);
     return toolkit::kUnintendedResponse;
   }
-  tst.SetTextToParse(text);
+  tst.SetTextToParse(std::move(text));
   const std::int32_t result = WalkNodes(*root, tst);
   Trace(kEnd);
   return result;

@@ -50,7 +50,7 @@ ProbeRun Fill(const ProbePlan& plan, const Snapshot& before) {
   const auto toolkit = MakeProbeToolkit(plan, run.notes);
   const auto tst = Make<TST>(*toolkit);
   try {
-    TstParser(*toolkit).ParseTst(kProbeText, *tst);
+    TstParser(*toolkit).ParseTst(std::u16string(kProbeText), *tst);
     run.snapshot = SnapshotOf(*tst);
   } catch (const toolkit::RuntimeError&) {  // NOLINT(bugprone-empty-catch): what was set before stays
   }
