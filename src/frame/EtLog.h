@@ -59,7 +59,7 @@ class EtLog final : public Object {
              std::u16string_view message) noexcept;
   void WriteRuntimeError(toolkit::LogKind kind, std::u16string_view description, std::u16string_view source,
                          std::u16string_view message, std::int32_t hostError) noexcept;
-  toolkit::HostLogger& Logger();
+  void MakeLogger();
 
   Ref<toolkit::Toolkit> toolkit_;
   Ref<toolkit::HostLogger> logger_;
