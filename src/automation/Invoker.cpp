@@ -66,24 +66,22 @@ class Arguments {
   std::array<Value, kMaximumWords> values_;
 };
 
-/// Gives the caller its result. Every type lies in a variant as it lies in the storage of a virtual call.
+/// Gives a result, which is empty before and stays so where `write` fails. Every type lies in a variant as it lies in
+/// the storage of a virtual call.
 template <class Write>
-void Deliver(VARIANT* result, ValueType type, Write&& write) {
-  Variant made;
-  write(static_cast<void*>(&made.Get().llVal));
-  made.Get().vt = VariantTypeOf(type);
-  if (result != nullptr) {
-    *result = made.Detach();
-  }
+void Deliver(VARIANT& result, ValueType type, Write&& write) {
+  void* const storage = &result.llVal;
+  ClearStorage(type, storage);
+  write(storage);
+  result.vt = VariantTypeOf(type);
 }
 
 HRESULT Call(const Dual& self, const Method& method, const DispatchCall& call) {
   const Arguments arguments(method, call.parameters);
   Value value = method.call(*self.object, arguments.All());
-  Deliver(call.result, method.result, [&](void* storage) {
-    ClearStorage(method.result, storage);
-    StoreValue(std::move(value), method.result, storage);
-  });
+  Variant unwanted;
+  Deliver(call.result != nullptr ? *call.result : unwanted.Get(), method.result,
+          [&](void* storage) { StoreValue(std::move(value), method.result, storage); });
   return S_OK;
 }
 
@@ -101,18 +99,11 @@ HRESULT CallDefaultMember(const VARIANT& object, const DispatchCall& call) {
 }
 
 HRESULT Read(const Dual& self, const Member& member, const DispatchCall& call) {
-  Variant value;
-  Deliver(&value.Get(), ResultTypeOf(member), [&](void* storage) {
-    ClearStorage(ResultTypeOf(member), storage);
-    ReadProperty(*self.object, member, storage);
-  });
-  if (call.parameters.cArgs != 0) {
-    return CallDefaultMember(value.Get(), call);
-  }
-  if (call.result != nullptr) {
-    *call.result = value.Detach();
-  }
-  return S_OK;
+  const bool forDefaultMember = call.parameters.cArgs != 0;
+  Variant kept;
+  Deliver(call.result != nullptr && !forDefaultMember ? *call.result : kept.Get(), ResultTypeOf(member),
+          [&](void* storage) { ReadProperty(*self.object, member, storage); });
+  return forDefaultMember ? CallDefaultMember(kept.Get(), call) : S_OK;
 }
 
 HRESULT Set(const Dual& self, const Member& member, const DispatchCall& call) {

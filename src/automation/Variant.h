@@ -23,7 +23,12 @@ class Variant {
   Variant(const Variant&) = delete;
   Variant(Variant&& other) noexcept : value_(other.Detach()) {}
   Variant& operator=(const Variant&) = delete;
-  ~Variant() { VariantClear(&value_); }
+  ~Variant() {
+    // Types below this one own nothing, and most values are of those.
+    if (value_.vt >= VT_BSTR) {
+      VariantClear(&value_);
+    }
+  }
 
   [[nodiscard]] VARIANT& Get() noexcept { return value_; }
   [[nodiscard]] const VARIANT& Get() const noexcept { return value_; }
