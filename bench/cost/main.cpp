@@ -1,5 +1,5 @@
 // What a retrieval costs: toolkit calls against the least possible, bytes, and, run under a counter of instructions,
-// the component against the bare walk. `./run cost` makes the table of docs/performance.md from it.
+// the component against the bare walk. `./run bench` makes the table of docs/performance.md from it.
 //
 //   qorl_cost calls <display>                          calls, lines and texts of one retrieval
 //   qorl_cost bytes                                    bytes and allocations of an empty object of each class
