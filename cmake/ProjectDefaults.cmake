@@ -13,13 +13,6 @@ endif()
 # Programs and libraries for users stand at the top of the build folder, without a "lib" in front.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}")
 
-# Adds a folder that is there and lists files of its own.
-function(add_subdirectory_if_present folder)
-  if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/CMakeLists.txt")
-    add_subdirectory("${folder}")
-  endif()
-endfunction()
-
 # The C++ files of the folders named, so that a new file needs no change here. Stores the list in `result`.
 function(qorl_sources result)
   list(TRANSFORM ARGN APPEND "/*.cpp" OUTPUT_VARIABLE patterns)
