@@ -1,6 +1,9 @@
 // The registered toolkit. See LateBoundToolkit.h.
 #include "automation/LateBoundToolkit.h"
 
+#include <atomic>
+#include <cstdint>
+
 #include "automation/LateBoundLogger.h"
 #include "automation/LateBoundNode.h"
 #include "toolkit/RuntimeError.h"
@@ -16,6 +19,11 @@ constexpr const wchar_t* kLoggerProgramId = L"QorlHostToolkit.HostLogger";
 /// Not counted and without a destructor: the toolkit itself takes its address away when it ends.
 thread_local LateBoundToolkit* ofThisThread = nullptr;
 
+/// How many toolkits ended on a thread whose own they were not, and how many of those this thread knows of. A thread
+/// that finds a new one forgets its toolkit, which may be the one that ended; at worst it makes another.
+std::atomic<std::uint32_t> endedElsewhere{0};
+thread_local std::uint32_t endedElsewhereKnown = 0;
+
 ComRef<IClassFactory> FindFactory(const wchar_t* programId) {
   CLSID classId;
   ComRef<IClassFactory> factory;
@@ -30,6 +38,10 @@ ComRef<IClassFactory> FindFactory(const wchar_t* programId) {
 }  // namespace
 
 Ref<toolkit::Toolkit> LateBoundToolkit::OfThisThread() {
+  const std::uint32_t ended = endedElsewhere.load(std::memory_order_acquire);
+  if (std::exchange(endedElsewhereKnown, ended) != ended) {
+    ofThisThread = nullptr;
+  }
   if (ofThisThread == nullptr) {
     return Make<LateBoundToolkit>();
   }
@@ -44,6 +56,8 @@ LateBoundToolkit::~LateBoundToolkit() {
   // An object that was handed to another thread may end there.
   if (ofThisThread == this) {
     ofThisThread = nullptr;
+  } else {
+    endedElsewhere.fetch_add(1, std::memory_order_release);
   }
 }
 

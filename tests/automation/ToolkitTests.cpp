@@ -1,6 +1,9 @@
 // The registered toolkit: found by its names, its class factories kept while somebody uses it.
 #include <gtest/gtest.h>
 
+#include <thread>
+#include <vector>
+
 #include "automation/LateBoundToolkit.h"
 #include "support/InstalledToolkit.h"
 #include "toolkit/HostNumbers.h"
@@ -37,6 +40,17 @@ TEST(RegisteredToolkit, ItsLoggersTakeEntries) {
 TEST(RegisteredToolkit, IsOneForAThreadWhileSomebodyHoldsIt) {
   const Ref<toolkit::Toolkit> held = LateBoundToolkit::OfThisThread();
   EXPECT_EQ(LateBoundToolkit::OfThisThread().Get(), held.Get());
+}
+
+TEST(RegisteredToolkit, OneThatEndsOnAnotherThreadIsForgottenOnItsOwn) {
+  const Installed installed(kToolkitFile);
+  Ref<toolkit::Toolkit> handedOver = LateBoundToolkit::OfThisThread();
+  std::thread([held = std::move(handedOver)]() mutable { held = nullptr; }).join();
+  // What may lie now where it was.
+  const std::vector<std::vector<std::byte>> others(100, std::vector(sizeof(LateBoundToolkit), std::byte{0xFF}));
+  const Ref<toolkit::Toolkit> next = LateBoundToolkit::OfThisThread();
+  EXPECT_EQ(next->References(), 1U);
+  EXPECT_EQ(ErrorOfCreating(*next), 0);
 }
 
 TEST(RegisteredToolkit, FurtherObjectsCostNoLookUp) {
