@@ -50,10 +50,6 @@ Value FromConverted(const VARIANT& variant, ValueType type) {
       return std::int32_t{variant.iVal};
     case ValueType::Boolean:
       return variant.boolVal != VARIANT_FALSE;
-    case ValueType::Date:
-      return Date{variant.date};
-    case ValueType::Currency:
-      return Currency{variant.cyVal.int64};
     case ValueType::String:
       return std::u16string(View(variant.bstrVal));
     default:

@@ -54,24 +54,20 @@ struct FieldReader {
   void operator()(const Method& /*method*/) const { throw toolkit::RuntimeError(toolkit::kInternalError); }
 };
 
-/// Writes a method's result. An empty result leaves the storage as it was cleared.
+/// Writes a method's result. What no method gives, and an empty result, leave the storage as it was cleared.
 struct ValueWriter {
   ValueType type;
   void* storage;
 
-  void operator()(std::monostate /*empty*/) const noexcept {}
   void operator()(std::int32_t value) const noexcept { Store<LONG>(storage, value); }
   void operator()(bool value) const noexcept { StoreBoolean(storage, value); }
-  void operator()(Date value) const noexcept { Store<DATE>(storage, value.days); }
-  void operator()(Currency value) const noexcept { StoreCurrency(storage, value); }
   void operator()(const std::u16string& value) const { Store(storage, NewBstr(value)); }
   void operator()(const Ref<Object>& value) const { StoreObject(storage, value.Get()); }
-  void operator()(const Ref<toolkit::HostSession>& /*session*/) const {
-    throw toolkit::RuntimeError(toolkit::kInternalError);
-  }
   void operator()(const Ref<Cursor>& value) const {
     Store<IUnknown*>(storage, value ? NewEnumerator(value).Detach() : nullptr);
   }
+  template <class Other>
+  void operator()(const Other& /*value*/) const noexcept {}
 };
 
 }  // namespace

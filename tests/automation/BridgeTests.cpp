@@ -273,6 +273,28 @@ TEST_P(Bridge, ALoggerGetsEntriesInTheOrderOfTheirParts) {
   EXPECT_EQ(texts, u"source|message");
 }
 
+/// Says that it gave a child, and gave none.
+class EmptyHanded final : public IEnumVARIANT {
+ public:
+  virtual ~EmptyHanded() = default;
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void**) noexcept override { return E_NOINTERFACE; }
+  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return 2; }
+  ULONG STDMETHODCALLTYPE Release() noexcept override { return 1; }
+  HRESULT STDMETHODCALLTYPE Next(ULONG, VARIANT*, ULONG* taken) noexcept override {
+    *taken = 0;
+    return S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE Skip(ULONG) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE Reset() noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE Clone(IEnumVARIANT**) noexcept override { return E_NOTIMPL; }
+};
+
+TEST_P(Bridge, AnEnumeratorThatGivesNothingIsAtItsEnd) {
+  EmptyHanded children;
+  LateBoundEnumerator enumerator(ComRef<IEnumVARIANT>(&children), MakeNodeNames());
+  EXPECT_FALSE(enumerator.Next());
+}
+
 INSTANTIATE_TEST_SUITE_P(Manners, Bridge, testing::Values(Manner::Plain, Manner::Extended),
                          [](const auto& manner) { return manner.param == Manner::Plain ? "Plain" : "Extended"; });
 

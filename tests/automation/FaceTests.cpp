@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <stdexcept>
+#include <vector>
 
 #include "automation/BoundClass.h"
 #include "automation/DualEntries.h"
@@ -9,6 +11,8 @@
 #include "frame/Collection.h"
 #include "support/Client.h"
 #include "support/TestRecord.h"
+#include "support/TestServer.h"
+#include "toolkit/RuntimeError.h"
 
 namespace qorltst::automation::test {
 /// The dual interfaces of the test classes as a compiled client sees them. Not in the unnamed namespace: a compiler
@@ -99,6 +103,50 @@ TEST_F(Faces, TheLastReferenceEndsTheObject) {
 TEST_F(Faces, CountsAreTold) {
   const ULONG added = client_.Get()->AddRef();
   EXPECT_EQ(client_.Get()->Release(), added - 1);
+}
+
+TEST_F(Faces, TheSmallInterfacesCountForTheObject) {
+  for (IUnknown* const face : {static_cast<IUnknown*>(Query<ISupportErrorInfo>(client_.Get()).Get()),
+                               static_cast<IUnknown*>(Query<IProvideClassInfo>(client_.Get()).Get())}) {
+    const std::uint32_t before = record_->References();
+    EXPECT_EQ(face->AddRef(), before + 1);
+    EXPECT_EQ(record_->References(), before + 1);
+    EXPECT_EQ(face->Release(), before);
+  }
+}
+
+/// Of a class that no library serves.
+class Stranger final : public Object {
+ public:
+  static constexpr ClassDescription kDescription{u"Stranger", u"", {}, {}, {}, nullptr};
+  [[nodiscard]] const ClassDescription& Description() const noexcept override { return kDescription; }
+};
+
+TEST_F(Faces, AnObjectOfAClassOutsideTheLibraryIsNotHandedOut) {
+  EXPECT_THROW(static_cast<void>(HandOut(*Make<Stranger>())), toolkit::RuntimeError);
+  EXPECT_THROW(BoundClass(Stranger::kDescription, TestLibrary()), toolkit::RuntimeError);
+}
+
+TEST_F(Faces, AnEnumeratorThatFailsOnItsWayKeepsNothingOfIt) {
+  const Ref<Collection> items = Make<Collection>();
+  items->Add(record_);
+  items->Add(Make<Stranger>());
+  const Answer answer = Client(*items).Call(DISPID_NEWENUM);
+  const ComRef<IEnumVARIANT> enumerator = Query<IEnumVARIANT>(answer.value.Get().punkVal);
+  EXPECT_EQ(Query<IUnknown>(enumerator.Get()).Get(), enumerator.Get());
+  const std::uint32_t before = record_->References();
+  std::array<VARIANT, 2> out{};
+  ULONG taken = 5;
+  EXPECT_TRUE(FAILED(enumerator->Next(2, out.data(), &taken)));
+  EXPECT_EQ(taken, 0U);
+  EXPECT_EQ(out[0].vt, VT_EMPTY);
+  EXPECT_EQ(record_->References(), before);
+}
+
+TEST_F(Faces, AClassWithMoreMembersThanATableTakesIsRefused) {
+  const std::vector<Member> rows(kMaximumRows + 1);
+  const ClassDescription large{u"Large", u"", rows, {}, {}, nullptr};
+  EXPECT_THROW(static_cast<void>(TableFor(large)), std::length_error);
 }
 
 TEST_F(Faces, ErrorInformationIsPromisedForTheDualInterfaceOnly) {

@@ -74,6 +74,40 @@ TEST_F(Dispatching, MissingPointersAreRefused) {
   EXPECT_EQ(client_.Get()->Invoke(10, GUID_NULL, 0, kRead, &noArray, nullptr, nullptr, nullptr), E_POINTER);
 }
 
+TEST_F(Dispatching, ANameThatIsMissingIsUnknown) {
+  const ScopedBstr join(u"Join");
+  std::array<LPOLESTR, 2> names{join.Get(), nullptr};
+  std::array<DISPID, 2> ids{};
+  EXPECT_EQ(client_.Get()->GetIDsOfNames(GUID_NULL, names.data(), 2, 0, ids.data()), DISP_E_UNKNOWNNAME);
+  EXPECT_EQ(ids[1], DISPID_UNKNOWN);
+}
+
+TEST_F(Dispatching, MoreNamesThanArgumentsAreRefused) {
+  std::array<VARIANT, 1> arguments{String(u"a")};
+  std::array<DISPID, 2> names{0, 1};
+  VARIANT result = Number(5);
+  EXPECT_EQ(Named(client_.IdOf(u"Join"), arguments, names, &result), DISP_E_BADPARAMCOUNT);
+  EXPECT_EQ(result.vt, VT_EMPTY);
+}
+
+TEST_F(Dispatching, ASetterTakesOneName) {
+  std::array<VARIANT, 1> arguments{String(u"a")};
+  std::array<DISPID, 2> names{DISPID_PROPERTYPUT, DISPID_PROPERTYPUT};
+  DISPPARAMS parameters{arguments.data(), names.data(), 1, 2};
+  EXPECT_EQ(client_.Get()->Invoke(client_.IdOf(u"Name"), GUID_NULL, 0, DISPATCH_PROPERTYPUT, &parameters, nullptr,
+                                  nullptr, nullptr),
+            DISP_E_BADPARAMCOUNT);
+}
+
+TEST_F(Dispatching, OnlyMethodsHaveParameters) {
+  const ScopedBstr text(u"Text");
+  const ScopedBstr value(u"Value");
+  std::array<LPOLESTR, 2> names{text.Get(), value.Get()};
+  std::array<DISPID, 2> ids{};
+  EXPECT_EQ(client_.Get()->GetIDsOfNames(GUID_NULL, names.data(), 2, 0, ids.data()), DISP_E_UNKNOWNNAME);
+  EXPECT_EQ(ids[0], 1);
+}
+
 TEST_F(Dispatching, PropertiesOfEveryTypeArriveAsTheirVariantType) {
   EXPECT_EQ(client_.Call(u"Text").value.Get().vt, VT_BSTR);
   EXPECT_EQ(client_.Call(u"Flag").value.Get().vt, VT_BOOL);

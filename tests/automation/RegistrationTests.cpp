@@ -206,14 +206,26 @@ TEST_F(Registering, AFailureAtAnyStepIsUndone) {
 }
 
 TEST_F(Registering, AFailureOverAnOlderRegistrationRestoresThat) {
-  ASSERT_EQ(RegisterNow(), S_OK);
+  const Library library = SmallLibrary();
+  ASSERT_EQ(Register(library, path_, SystemRegistry()), S_OK);
   ASSERT_EQ(SystemRegistry().Write(u"QorlTST.EtLog", u"", u"older text"), S_OK);
   const Snapshot before = Take();
-  for (const int step : {1, 5, 9, 20}) {
+  for (int step = 1;; ++step) {
     FailingRegistry registry(step);
-    ASSERT_TRUE(FAILED(RegisterNow(registry)));
-    EXPECT_EQ(Take(), before) << "step " << step;
+    const HRESULT code = Register(library, path_, registry);
+    if (!registry.Failed()) {
+      EXPECT_EQ(code, S_OK);
+      EXPECT_GT(step, 15);
+      break;
+    }
+    ASSERT_TRUE(FAILED(code)) << "step " << step;
+    ASSERT_EQ(Take(), before) << "step " << step;
   }
+}
+
+TEST_F(Registering, WhatCannotBeWrittenIsSaid) {
+  EXPECT_TRUE(FAILED(SystemRegistry().Write(u"NoSuchKey", u"", u"text")));
+  EXPECT_TRUE(FAILED(SystemRegistry().MakeKey(u"NoSuchKey\\" + std::u16string(300, u'x'))));
 }
 
 TEST_F(Registering, ANameOfAnotherLibraryIsNotTakenOver) {

@@ -63,6 +63,8 @@ TEST_F(Servers, ObjectsAreNotAggregated) {
   EXPECT_EQ(factory->CreateInstance(outer.Get(), IID_IUnknown, &out), CLASS_E_NOAGGREGATION);
   EXPECT_EQ(out, nullptr);
   EXPECT_EQ(factory->CreateInstance(nullptr, IID_IUnknown, nullptr), E_POINTER);
+  EXPECT_EQ(factory->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
+  EXPECT_EQ(Query<IUnknown>(factory.Get()).Get(), factory.Get());
 }
 
 TEST_F(Servers, AnObjectWithoutTheWantedInterfaceIsNotLeftBehind) {

@@ -1,9 +1,12 @@
 // Host sessions and replaceable collections as arguments of the component's members.
 #include <gtest/gtest.h>
 
+#include "automation/ArgumentValues.h"
+#include "automation/ForeignObject.h"
 #include "frame/Collection.h"
 #include "support/FakeObject.h"
 #include "support/TestRecord.h"
+#include "toolkit/RuntimeError.h"
 
 namespace qorltst::automation::test {
 namespace {
@@ -64,6 +67,23 @@ TEST_F(ObjectArguments, OurOwnCollectionIsTakenAsItself) {
   const Client face(*own);
   EXPECT_EQ(client_.Put(u"Holder", Dispatch(face.Get())).code, S_OK);
   EXPECT_EQ(record_->holder.Get(), own.Get());
+}
+
+TEST_F(ObjectArguments, AForeignObjectIsNoneOfOurs) {
+  const ComRef<FakeObject> foreign = Fake();
+  EXPECT_EQ(client_.Call(u"EchoObject", {Dispatch(foreign)}).errorCode, static_cast<std::int32_t>(0x800A000D));
+  EXPECT_FALSE(OwnObject(foreign.Get()));
+  EXPECT_FALSE(OwnObject(nullptr));
+}
+
+TEST_F(ObjectArguments, AForeignCollectionIsDescribedAsForeign) {
+  const ComRef<FakeObject> foreign = Fake();
+  foreign->Gives(u"Count", Number(0)).Gives(u"Item", Number(0));
+  EXPECT_EQ(CollectionFrom(*foreign.Get(), nullptr)->Description().name, u"ForeignObject");
+}
+
+TEST_F(ObjectArguments, AVirtualCallHasNoArgumentOfAnyType) {
+  EXPECT_THROW(static_cast<void>(FromWord(0, ValueType::Any)), toolkit::RuntimeError);
 }
 
 TEST_F(ObjectArguments, NothingInPlaceOfACollectionRaises91) {
