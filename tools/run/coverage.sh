@@ -1,8 +1,8 @@
-# How much of the component the sanitizers' tests reach; part of `./run test`.
+# How much of the component the tests reach; part of `./run test`. Lines and branches without a reason in
+# tests/unreached.txt or tests/automation/unreached.txt are a failure.
 
-# coverage_report <preset> <programs...>: merges what the programs counted and prints what they did not reach. Lines and
-# branches without a reason in tests/unreached.txt are a failure.
-coverage_report() {
+# native_coverage <preset> <programs...>: merges what the sanitizers' tests counted and prints what they did not reach.
+native_coverage() {
   local build=$kRoot/build/$1 program
   local -a objects=()
   for program in "${@:3}"; do
@@ -11,11 +11,17 @@ coverage_report() {
   llvm-profdata merge -o "$build/all.profdata" "$build"/profiles/*.profraw &&
     llvm-cov export -format=text "$build/$2" "${objects[@]}" "-instr-profile=$build/all.profdata" "$kRoot/src" \
       >"$build/coverage.json" &&
-    python3 tools/coverage/report.py "$build/coverage.json" tests/unreached.txt
+    python3 tools/coverage/report.py llvm "$build/coverage.json" tests/unreached.txt
 }
 
-# coverage_step <preset> <programs...>: a failure counts.
+# automation_coverage <preset>: what the counting programs left behind in the build folder.
+automation_coverage() {
+  python3 tools/coverage/report.py gcov "$kRoot/build/$1" tests/automation/unreached.txt \
+    x86_64-w64-mingw32-gcov-posix src/automation/
+}
+
+# coverage_step <name> <command...>: a failure counts.
 coverage_step() {
-  checked "coverage of src" coverage_report "$@" || return 0
-  grep '^  ' "$kLogs/coverage-of-src.log"
+  checked "$@" || return 0
+  grep '^  ' "$kLogs/${1// /-}.log"
 }

@@ -3,6 +3,8 @@
 
 readonly kFuzzTargets=(amount display tree)
 readonly kFuzzSeconds=1200
+# In `./run test`.
+readonly kShortFuzzSeconds=20
 # Long enough for several screens; what takes longer or more memory than this is a finding.
 readonly -a kFuzzLimits=(-max_len=4096 -timeout=10 -rss_limit_mb=1024)
 
@@ -36,15 +38,6 @@ fuzz_step() {
     fi
     fuzz_figures "$target"
   done
-}
-
-# The short form for `./run test`; the programs are built with the tests of the sanitizers.
-test_fuzz() {
-  if can_sanitize; then
-    fuzz_step 20 "${kFuzzTargets[@]}"
-  else
-    skipped=$((skipped + ${#kFuzzTargets[@]}))
-  fi
 }
 
 command_fuzz() {

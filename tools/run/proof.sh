@@ -3,7 +3,7 @@
 
 proof_automation() {
   step "wine prefix" start_wine
-  program_step windows-x64 qorl_automation_tests.exe wine
+  program_step windows-x64 qorl_automation_tests.exe wine --gtest_filter=-ServerCycles*
 }
 
 command_proof() {
@@ -15,6 +15,7 @@ command_proof() {
   program_step native-release qorl_memory_tests
   if can_sanitize; then
     test_sanitized
+    test_sanitized_tools
     fuzz_step "$kFuzzSeconds" "${kFuzzTargets[@]}"
   fi
   if can_build_windows && can_run_windows; then

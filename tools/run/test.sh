@@ -30,11 +30,16 @@ ctest_step() {
   add_report "$report" "$status"
 }
 
-# program_step <preset> <program> [wine]: runs a test program at one go and adds its tests to the sums.
+# program_step <preset> <program> [wine] [options]: runs a test program at one go and adds its tests to the sums.
 program_step() {
   local report=$kRoot/build/$1/$2.xml status=0
+  local -a runner=()
   rm -f "$report"
-  step "$1 $2" "${@:3}" "$kRoot/build/$1/$2" --gtest_brief=1 "--gtest_output=xml:$report" || status=$?
+  if [[ ${3:-} == wine ]]; then
+    runner=(wine)
+  fi
+  step "$1 $2" "${runner[@]}" "$kRoot/build/$1/$2" --gtest_brief=1 "--gtest_output=xml:$report" "${@:3+${#runner[@]}}" ||
+    status=$?
   add_report "$report" "$status"
 }
 
@@ -65,44 +70,89 @@ test_valgrind() {
     --gtest_filter='*warnings*:*fcexchange*:*Classes*:*Begin*' || true
 }
 
+# beside <function> <other function>: both at once, each a row of steps that leaves one of the two cores idle. What the
+# second one says is shown when both have ended.
+beside() {
+  local lane=$kLogs/beside sums
+  mkdir -p "$kLogs"
+  (
+    passed=0 failed=0 skipped=0
+    "$2" >"$lane.txt"
+    printf '%s %s %s\n' "$passed" "$failed" "$skipped" >"$lane.sums"
+  ) &
+  "$1"
+  wait "$!" || failed=$((failed + 1))
+  cat "$lane.txt"
+  read -r -a sums <"$lane.sums" || sums=(0 1 0)
+  passed=$((passed + sums[0])) failed=$((failed + sums[1])) skipped=$((skipped + sums[2]))
+}
+
 # One process for all tests, so that what they leave behind adds up; the sanitizers look for leaks at its end.
 test_sanitized() {
   if ! can_sanitize; then
     say "The sanitizers are left out: they need ${kSanitizerPrograms[*]}"
+    skipped=$((skipped + ${#kFuzzTargets[@]}))
     return 0
   fi
-  if checked "native-sanitize build" compile native-sanitize; then
+  if checked "native-sanitize build" compile native-sanitize --target \
+    qorl_tests qorl_memory_tests "${kFuzzTargets[@]/#/qorl_fuzz_}"; then
     export LLVM_PROFILE_FILE=$kRoot/build/native-sanitize/profiles/%m-%p.profraw UBSAN_OPTIONS=print_stacktrace=1
     rm -rf "$kRoot/build/native-sanitize/profiles"
-    program_step native-sanitize qorl_tests
-    program_step native-sanitize qorl_memory_tests
-    # Left out where its libraries are not installed.
-    if [[ -x build/native-sanitize/qorl_tool_tests ]]; then
-      program_step native-sanitize qorl_tool_tests
-    fi
-    program_step native-sanitize qorl_shell_tests
-    coverage_step native-sanitize qorl_tests qorl_memory_tests
+    beside sanitized_tests sanitized_memory_and_fuzz
+    coverage_step "coverage of src" native_coverage native-sanitize qorl_tests qorl_memory_tests
   fi
 }
 
-test_windows_x64() {
+sanitized_tests() { program_step native-sanitize qorl_tests; }
+
+sanitized_memory_and_fuzz() {
+  program_step native-sanitize qorl_memory_tests
+  fuzz_step "$kShortFuzzSeconds" "${kFuzzTargets[@]}"
+}
+
+# The programs of tools/: the long proof only.
+test_sanitized_tools() {
+  local program
+  checked "native-sanitize tools build" compile native-sanitize || return 0
+  # The first is left out where its libraries are not installed.
+  for program in qorl_tool_tests qorl_shell_tests; do
+    if [[ -x build/native-sanitize/$program ]]; then
+      program_step native-sanitize "$program"
+    fi
+  done
+}
+
+test_windows() {
   checked "windows-x64 build" compile windows-x64 || return 0
   if can_run_windows; then
     checked "wine prefix" start_wine || return 0
+    beside build_windows_x86 test_windows_x64
+    coverage_step "coverage of src/automation" automation_coverage windows-x64
   else
-    say "windows-x64: tests that run under Wine are left out; they need ${kWinePrograms[*]}; the files are checked"
+    say "Tests that run under Wine are left out; they need ${kWinePrograms[*]}; the files are checked"
+    ctest_step windows-x64 tests -LE package
+    build_windows_x86
   fi
-  ctest_step windows-x64 tests -LE package
+  ctest_step windows-x86 tests -LE package
 }
 
-test_windows_x86() {
+# The tests of the servers that are delivered in one process, those that want one of their own, and once more those that
+# go through a server's entry points, with the servers that count.
+test_windows_x64() {
+  local program=qorl_automation_tests.exe
+  find build/windows-x64 -name '*.gcda' -delete
+  program_step windows-x64 "$program" wine --gtest_filter=-ServerCycles*
+  program_step windows-x64/counted "$program" wine --gtest_filter=Server*:Type*:Registering*:EarlyBound*
+  ctest_step windows-x64 "other tests" -LE 'package|one-process'
+}
+
+build_windows_x86() {
   local -a targets=(all)
   if ! can_run_windows_x86; then
     say "windows-x86: tests that run under Wine are left out, as wine32 is not installed; the files are checked"
     targets=(QorlTST QorlHostToolkit)
   fi
   checked "windows-x86 build" compile windows-x86 --target "${targets[@]}" || return 0
-  ctest_step windows-x86 tests -LE package
 }
 
 # The package is made of both builds; its tests stop what they start.
@@ -125,10 +175,8 @@ command_test() {
   lint_component
   test_native
   test_sanitized
-  test_fuzz
   if can_build_windows; then
-    test_windows_x64
-    test_windows_x86
+    test_windows
     test_package
   else
     say "The Windows tests are left out: they need ${kWindowsPrograms[*]}"
