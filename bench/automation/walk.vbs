@@ -1,49 +1,66 @@
 ' The same walk by hand: what a script pays that sends the command, reads the parser's tree and writes the log itself,
-' against the component called from the same script. Arguments: a display's file, how often.
+' against the component called from the same script. Each with objects that are made anew every time, and with objects
+' that are kept. Arguments: a display's file, how often.
 Option Explicit
 
-Dim session, log, tst, file, times, begun, component, byHand, texts, used
+Dim session, log, tst, logger, parser, file, times, begun, i, texts(5000), used
 file = WScript.Arguments(0)
 times = CLng(WScript.Arguments(1))
 Set session = CreateObject("QorlHostToolkit.RecordedSession")
 Set log = CreateObject("QorlHostToolkit.LogReader")
 session.Load file
+WScript.Echo Mid(file, InStrRev(file, "\") + 1)
 
 begun = Timer
-Dim i
 For i = 1 To times
   Set tst = CreateObject("QorlTST.TST")
-  If tst.RetrieveCurrentTst(session) <> 0 Then WScript.Echo "the retrieval failed"
-  log.Clear
+  Retrieve
 Next
-component = (Timer - begun) / times
+Report "component, a new TST each time"
+
+begun = Timer
+For i = 1 To times
+  Retrieve
+Next
+Report "component, one TST"
+
+begun = Timer
+For i = 1 To times
+  MakeParserAndLogger
+  RetrieveByHand
+Next
+Report "by hand, a new parser and logger each time"
 
 begun = Timer
 For i = 1 To times
   RetrieveByHand
-  log.Clear
 Next
-byHand = (Timer - begun) / times
-
-WScript.Echo Mid(file, InStrRev(file, "\") + 1) & "  component " & Microseconds(component) & " us, by hand " & _
-             Microseconds(byHand) & " us, " & used & " texts"
+Report "by hand, one parser and logger"
+WScript.Echo used & " texts"
 WScript.Echo "done"
 
-Function Microseconds(seconds)
-  Microseconds = CLng(seconds * 1000000)
-End Function
+Sub Report(what)
+  WScript.Echo "  " & what & ": " & CLng((Timer - begun) / times * 1000000) & " us"
+End Sub
 
-Sub RetrieveByHand()
-  Dim logger, response, text, parser, node
+Sub Retrieve()
+  If tst.RetrieveCurrentTst(session) <> 0 Then WScript.Echo "the retrieval failed"
+  log.Clear
+End Sub
+
+Sub MakeParserAndLogger()
   Set logger = CreateObject("QorlHostToolkit.HostLogger")
   logger.SetApplication "Script"
+  Set parser = CreateObject("QorlHostToolkit.ParseNode")
+End Sub
+
+Sub RetrieveByHand()
+  Dim response, text, node
   session.SetOption 322, False
   Set response = session.SendCommand("TQT", True)
   text = response.Text
-  Set parser = CreateObject("QorlHostToolkit.ParseNode")
   If parser.Parse(text, 6) <> 10000 Then Exit Sub
   If parser.FindNode(602) Is Nothing Then Exit Sub
-  ReDim texts(5000)
   used = 0
   For Each node In parser
     If node.HasWarning Then logger.Write 3, "Script.Walk", 1, "A warning on " & node.TypeId
@@ -53,6 +70,7 @@ Sub RetrieveByHand()
     Walk node
     logger.Write 3, "Script.Walk", 1, "End of line " & node.TypeId
   Next
+  log.Clear
 End Sub
 
 Sub Walk(parent)

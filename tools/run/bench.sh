@@ -10,7 +10,7 @@ instructions() {
 
 # instructions_each <component|bare> <display>: what one more retrieval takes.
 instructions_each() {
-  local few many more=5
+  local few many more=50
   few=$(instructions "$1" "$2" 1)
   many=$(instructions "$1" "$2" $((1 + more)))
   echo $(((many - few) / more))
@@ -50,7 +50,7 @@ measure_script() {
   local display
   for display in fares fc-side-trip; do
     wine cscript //nologo "$(windows_path "$kRoot/bench/automation/walk.vbs")" \
-      "$(windows_path "$kRoot/examples/displays/$display.txt")" 50
+      "$(windows_path "$kRoot/examples/displays/$display.txt")" 300
   done
 }
 
