@@ -8,6 +8,7 @@
 #include "automation/Errors.h"
 #include "automation/Text.h"
 #include "support/Client.h"
+#include "support/MemoryWatch.h"
 #include "support/TestRecord.h"
 
 namespace qorltst::automation::test {
@@ -69,6 +70,18 @@ class Errors : public testing::Test {
   Ref<TestRecord> record_ = Make<TestRecord>();
   Client client_{*record_};
 };
+
+TEST_F(Errors, AFailedVirtualCallLeavesNothingBehind) {
+  BSTR text = nullptr;
+  RaiseEarly(13, text);
+  SetErrorInfo(0, nullptr);
+  const InUse before = CountInUse();
+  for (int i = 0; i < 5; ++i) {
+    EXPECT_EQ(RaiseEarly(13, text), static_cast<HRESULT>(0x800A000D));
+    SetErrorInfo(0, nullptr);
+  }
+  EXPECT_EQ(CountInUse(), before);
+}
 
 TEST_F(Errors, ARuntimeErrorReachesAnEarlyBoundCallerWithItsTexts) {
   BSTR text = reinterpret_cast<BSTR>(1);
