@@ -9,13 +9,12 @@
 
 namespace qorltst {
 
-TST::TST(toolkit::Toolkit& toolkit) : Element(toolkit) {
-  // In this order: each takes the next debug ids.
-  fareCalculation_ = Make<FareCalculation>(toolkit);
-  feElement_ = Make<FEElement>(toolkit);
-  itineraryLastLine_ = Make<ItineraryLastLine>(toolkit);
-  tstHeader_ = Make<TSTHeader>(toolkit);
-}
+TST::TST(toolkit::Toolkit& toolkit)
+    : Element(toolkit),
+      fareCalculation_(Make<FareCalculation>(toolkit)),
+      feElement_(Make<FEElement>(toolkit)),
+      itineraryLastLine_(Make<ItineraryLastLine>(toolkit)),
+      tstHeader_(Make<TSTHeader>(toolkit)) {}
 
 TST::~TST() = default;
 

@@ -84,6 +84,7 @@ class TST final : public Element {
   TstCommunication& Communication();
 
   std::array<CollectionProperty, kCollectionKinds> collections_;
+  // In this order: each takes the next debug ids.
   Ref<FareCalculation> fareCalculation_;
   Ref<FEElement> feElement_;
   Ref<ItineraryLastLine> itineraryLastLine_;

@@ -23,5 +23,5 @@ automation_coverage() {
 # coverage_step <name> <command...>: a failure counts.
 coverage_step() {
   checked "$@" || return 0
-  grep '^  ' "$kLogs/${1// /-}.log"
+  grep "^  " "$kLogs/${1//[ \/]/-}.log"
 }

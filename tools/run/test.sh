@@ -33,13 +33,14 @@ ctest_step() {
 # program_step <preset> <program> [wine] [options]: runs a test program at one go and adds its tests to the sums.
 program_step() {
   local report=$kRoot/build/$1/$2.xml status=0
-  local -a runner=()
+  local -a call=("$kRoot/build/$1/$2" --gtest_brief=1)
   rm -f "$report"
   if [[ ${3:-} == wine ]]; then
-    runner=(wine)
+    call=(wine "${call[@]}" "--gtest_output=xml:$(windows_path "$report")" "${@:4}")
+  else
+    call+=("--gtest_output=xml:$report" "${@:3}")
   fi
-  step "$1 $2" "${runner[@]}" "$kRoot/build/$1/$2" --gtest_brief=1 "--gtest_output=xml:$report" "${@:3+${#runner[@]}}" ||
-    status=$?
+  step "$1 ${2%.exe}" "${call[@]}" || status=$?
   add_report "$report" "$status"
 }
 
@@ -80,8 +81,9 @@ beside() {
     "$2" >"$lane.txt"
     printf '%s %s %s\n' "$passed" "$failed" "$skipped" >"$lane.sums"
   ) &
+  local other=$!
   "$1"
-  wait "$!" || failed=$((failed + 1))
+  wait "$other" || failed=$((failed + 1))
   cat "$lane.txt"
   read -r -a sums <"$lane.sums" || sums=(0 1 0)
   passed=$((passed + sums[0])) failed=$((failed + sums[1])) skipped=$((skipped + sums[2]))
@@ -142,7 +144,7 @@ test_windows_x64() {
   local program=qorl_automation_tests.exe
   find build/windows-x64 -name '*.gcda' -delete
   program_step windows-x64 "$program" wine --gtest_filter=-ServerCycles*
-  program_step windows-x64/counted "$program" wine --gtest_filter=Server*:Type*:Registering*:EarlyBound*
+  program_step windows-x64/counted "$program" wine --gtest_filter=Server*:Type*:Registering*:RegisteredToolkit*:EarlyBound*
   ctest_step windows-x64 "other tests" -LE 'package|one-process'
 }
 
