@@ -117,6 +117,22 @@ class Registering : public testing::Test {
     return Register(ComponentLibrary(), path_, registry);
   }
 
+  /// Each failure leaves everything as it was; there are more steps than `least`.
+  void FailAtEveryStep(const Library& library, int least) {
+    const Snapshot before = Take();
+    for (int step = 1;; ++step) {
+      FailingRegistry registry(step);
+      const HRESULT code = Register(library, path_, registry);
+      if (!registry.Failed()) {
+        EXPECT_EQ(code, S_OK);
+        EXPECT_GT(step, least);
+        break;
+      }
+      ASSERT_TRUE(FAILED(code)) << "step " << step;
+      ASSERT_EQ(Take(), before) << "step " << step;
+    }
+  }
+
   inline static const std::u16string path_ = BesideProgram(u"QorlTST.dll");
 
  private:
@@ -189,38 +205,13 @@ Library SmallLibrary() {
   return library;
 }
 
-TEST_F(Registering, AFailureAtAnyStepIsUndone) {
-  const Library library = SmallLibrary();
-  const Snapshot before = Take();
-  for (int step = 1;; ++step) {
-    FailingRegistry registry(step);
-    const HRESULT code = Register(library, path_, registry);
-    if (!registry.Failed()) {
-      EXPECT_EQ(code, S_OK);
-      EXPECT_GT(step, 20);
-      break;
-    }
-    ASSERT_TRUE(FAILED(code)) << "step " << step;
-    ASSERT_EQ(Take(), before) << "step " << step;
-  }
-}
+TEST_F(Registering, AFailureAtAnyStepIsUndone) { FailAtEveryStep(SmallLibrary(), 20); }
 
 TEST_F(Registering, AFailureOverAnOlderRegistrationRestoresThat) {
   const Library library = SmallLibrary();
   ASSERT_EQ(Register(library, path_, SystemRegistry()), S_OK);
   ASSERT_EQ(SystemRegistry().Write(u"QorlTST.EtLog", u"", u"older text"), S_OK);
-  const Snapshot before = Take();
-  for (int step = 1;; ++step) {
-    FailingRegistry registry(step);
-    const HRESULT code = Register(library, path_, registry);
-    if (!registry.Failed()) {
-      EXPECT_EQ(code, S_OK);
-      EXPECT_GT(step, 15);
-      break;
-    }
-    ASSERT_TRUE(FAILED(code)) << "step " << step;
-    ASSERT_EQ(Take(), before) << "step " << step;
-  }
+  FailAtEveryStep(library, 15);
 }
 
 TEST_F(Registering, WhatCannotBeWrittenIsSaid) {
