@@ -1,4 +1,4 @@
-# What holds for every target: language level, where results go, and two helpers that keep the lists in the folders.
+# What holds for every target: language level, where results go, and a helper that keeps the lists of sources in the folders.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
